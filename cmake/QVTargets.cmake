@@ -1,0 +1,42 @@
+# What every target of the tree shares: language level, warnings, hardening, where the results go.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN OFF)
+
+find_program(QV_CCACHE ccache)
+if(QV_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${QV_CCACHE})
+endif()
+
+# The runnable tree: copied to a Windows machine, it runs there as it stands.
+set(QV_STAGE ${CMAKE_SOURCE_DIR}/build/stage)
+
+add_library(qv_options INTERFACE)
+target_compile_definitions(qv_options INTERFACE
+  UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX STRICT
+  WINVER=0x0A00 _WIN32_WINNT=0x0A00 _WIN32_IE=0x0A00 NTDDI_VERSION=0x0A000000
+  _GLIBCXX_ASSERTIONS)
+target_compile_options(qv_options INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wno-unknown-pragmas;-fstack-protector-strong>)
+target_link_options(qv_options INTERFACE -Wl,--no-insert-timestamp -fstack-protector-strong)
+
+# qv_add_dll(NAME [EXPORTS macro] [DEPENDS dll...] [SYSTEM_LIBS lib...])
+# One DLL per folder: all .cpp and .rc files below the calling folder, its public headers in include/.
+function(qv_add_dll name)
+  cmake_parse_arguments(ARG "" "EXPORTS" "DEPENDS;SYSTEM_LIBS" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
+  add_library(${name} SHARED ${sources})
+  set_target_properties(${name} PROPERTIES
+    PREFIX "" IMPORT_PREFIX "lib"
+    RUNTIME_OUTPUT_DIRECTORY ${QV_STAGE}/bin
+    ARCHIVE_OUTPUT_DIRECTORY ${QV_STAGE}/lib)
+  if(ARG_EXPORTS)
+    target_compile_definitions(${name} PRIVATE ${ARG_EXPORTS})
+  endif()
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE qv_options ${ARG_SYSTEM_LIBS})
+  set_property(GLOBAL APPEND PROPERTY QV_PUBLIC_INCLUDE_DIRS ${CMAKE_CURRENT_SOURCE_DIR}/include)
+endfunction()

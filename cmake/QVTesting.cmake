@@ -1,0 +1,29 @@
+# GoogleTest is built from Debian's source package with the same toolchain as the tree.
+set(gtest_force_shared_crt ON)
+set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+
+# qv_add_test_program(NAME KIND rules|window [LIBS target...] [EXTRA_SOURCES file...])
+# All .cpp and .rc files of the calling folder make one program. Table tests (rules) are one ctest entry a
+# program; window tests are one ctest entry a case, each in a process of its own, one at a time on the display.
+function(qv_add_test_program name)
+  cmake_parse_arguments(ARG "" "KIND" "LIBS;EXTRA_SOURCES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
+  add_executable(${name} ${sources} ${ARG_EXTRA_SOURCES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_link_libraries(${name} PRIVATE qv_options ${ARG_LIBS} gtest)
+  if(TARGET qv_test_support)
+    target_link_libraries(${name} PRIVATE qv_test_support)
+  else()
+    target_link_libraries(${name} PRIVATE gtest_main)
+  endif()
+  if(ARG_KIND STREQUAL "window")
+    include(GoogleTest)
+    gtest_discover_tests(${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+      PROPERTIES RESOURCE_LOCK display TIMEOUT 120 LABELS window
+      FAIL_REGULAR_EXPRESSION "wine: Unhandled;err:heap:")
+  else()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 LABELS rules FAIL_REGULAR_EXPRESSION "wine: Unhandled;err:heap:")
+  endif()
+endfunction()
