@@ -1,0 +1,39 @@
+// QVBaseCtrl.h: what every skinned control shares: it is told when the skin changes.
+#pragma once
+
+#include "QVCommonCtrlDef.h"
+
+namespace _qv_commonctrl {
+
+// Sent (never posted) to every skinned window on a change of skin; wParam and lParam 0.
+// The value is from RegisterWindowMessageW, so it never meets a private message of a host.
+QVCOMMONCTRL_API UINT QV_GetSkinChangeMessage();
+
+// A mix-in base beside a framework window class:
+//
+//     class CMyCtrl : public CWnd, public CQVBaseCtrl { ... };
+//     AttachSkin(this) once the window exists (OnCreate, PreSubclassWindow)
+//
+// The object leaves the list of skinned windows when it dies or DetachSkin is called. User-interface thread.
+class QVCOMMONCTRL_API CQVBaseCtrl {
+  public:
+    CQVBaseCtrl();
+    CQVBaseCtrl(const CQVBaseCtrl&) = delete;
+    CQVBaseCtrl& operator=(const CQVBaseCtrl&) = delete;
+    virtual ~CQVBaseCtrl();
+
+    // Enters the object, with the window it stands for, into the list of skinned windows. Null leaves the
+    // list.
+    void AttachSkin(CWnd* wnd);
+    void DetachSkin();
+    CWnd* GetSkinWnd() const { return m_pSkinWnd; }
+
+    // The skin has changed: colours, fonts and images read before are void. The base invalidates the window
+    // with its frame. `reason` is 0; `wnd` is the window the object was attached with.
+    virtual void OnSkinChange(UINT reason, HWND wnd);
+
+  private:
+    CWnd* m_pSkinWnd = nullptr;
+};
+
+} // namespace _qv_commonctrl

@@ -1,0 +1,60 @@
+// QVBaseFrame.h: the skinned frame of a dialog (caption band, close button, border) and its anchored
+// children.
+#pragma once
+
+#include "QVBaseCtrl.h"
+
+#include <vector>
+
+namespace _qv_commonctrl {
+
+// How a registered child follows its frame's client area when that is resized (the `mode` of SetChildWindow).
+enum QVAnchorMode : int {
+    QVANCHOR_TOP_LEFT = 0,     // stays where it is
+    QVANCHOR_TOP_RIGHT = 1,    // keeps its distance to the right edge
+    QVANCHOR_BOTTOM_LEFT = 2,  // keeps its distance to the bottom edge
+    QVANCHOR_BOTTOM_RIGHT = 4, // keeps its distance to the right and bottom edges
+    QVANCHOR_FILL = 8,         // keeps its distance to all four edges
+};
+
+// Further flags of SetChildWindow.
+enum QVAnchorFlags : DWORD {
+    QVANCHOR_KEEP_SIZE = 0x40000, // the child is moved, never sized
+    QVANCHOR_RESIZE = 0x80000,    // the child is sized as its mode says
+};
+
+// A mix-in beside CDialog. It takes over the non-client area: a caption band, a hairline frame and a close
+// button painted by the skin in place of the system's. A child, popup or caption-less window keeps only the
+// frame.
+class QVCOMMONCTRL_API CQVBaseFrame : public CQVBaseCtrl {
+  public:
+    CQVBaseFrame();
+    ~CQVBaseFrame() override;
+
+    // Switches the following of registered children on or off. `wnd` is the window whose client area they
+    // follow (null: the frame's own window); `flags` is reserved, 0.
+    void SetAutoSize(BOOL enable, CWnd* wnd, DWORD flags);
+
+    // Registers a child with the rectangle it has now; a second call for the same child replaces the first.
+    // A null or foreign window is ignored. The handle is dropped as soon as the child is destroyed.
+    void SetChildWindow(CWnd* child, int mode, DWORD flags);
+
+    // Widths in pixels of the skinned frame round the client area at the window's DPI: left and right edges,
+    // top (edge and caption band) and bottom.
+    CRect GetFrameEdges() const;
+
+    void OnSkinChange(UINT reason, HWND wnd) override;
+
+  protected:
+    // To be called by the window class that mixes the frame in. HandleFrameMessage gets every message before
+    // the window class does; TRUE means handled and `result` is the answer.
+    void AttachFrame(CWnd* wnd);
+    void DetachFrame();
+    BOOL HandleFrameMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+
+  private:
+    friend class CQVFrameImpl;
+    class CQVFrameImpl* m_pImpl;
+};
+
+} // namespace _qv_commonctrl
