@@ -20,14 +20,24 @@ target_compile_definitions(qv_options INTERFACE
   WINVER=0x0A00 _WIN32_WINNT=0x0A00 _WIN32_IE=0x0A00 NTDDI_VERSION=0x0A000000
   _GLIBCXX_ASSERTIONS)
 target_compile_options(qv_options INTERFACE
-  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wno-unknown-pragmas;-fstack-protector-strong>)
-target_link_options(qv_options INTERFACE -Wl,--no-insert-timestamp -fstack-protector-strong)
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wno-unknown-pragmas;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.;-fstack-protector-strong>)
+target_link_options(qv_options INTERFACE -Wl,--no-insert-timestamp -Wl,--disable-auto-image-base -fstack-protector-strong)
+
+# A folder whose sources are not there yet still makes its DLL, so that the others link and run.
+function(qv_empty_source name out)
+  set(file ${CMAKE_CURRENT_BINARY_DIR}/${name}_empty.cpp)
+  file(CONFIGURE OUTPUT ${file} CONTENT "extern \"C\" __declspec(dllexport) const int @name@_isEmpty = 1;\n" @ONLY)
+  set(${out} ${file} PARENT_SCOPE)
+endfunction()
 
 # qv_add_dll(NAME [EXPORTS macro] [DEPENDS dll...] [SYSTEM_LIBS lib...])
 # One DLL per folder: all .cpp and .rc files below the calling folder, its public headers in include/.
 function(qv_add_dll name)
   cmake_parse_arguments(ARG "" "EXPORTS" "DEPENDS;SYSTEM_LIBS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
+  if(NOT sources)
+    qv_empty_source(${name} sources)
+  endif()
   add_library(${name} SHARED ${sources})
   set_target_properties(${name} PROPERTIES
     PREFIX "" IMPORT_PREFIX "lib"
@@ -39,4 +49,33 @@ function(qv_add_dll name)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE qv_options ${ARG_SYSTEM_LIBS})
   set_property(GLOBAL APPEND PROPERTY QV_PUBLIC_INCLUDE_DIRS ${CMAKE_CURRENT_SOURCE_DIR}/include)
+endfunction()
+
+# The C++ run-time goes beside the programs: exceptions and type information cross our DLLs, so all of them must
+# use the same one. Every public header goes to one include folder.
+function(qv_stage_common_files)
+  set(outputs)
+  foreach(dll libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}.dll
+      OUTPUT_VARIABLE found OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT EXISTS ${found})
+      message(FATAL_ERROR "${dll}.dll is not part of the toolchain ${CMAKE_CXX_COMPILER}")
+    endif()
+    qv_stage_file(${found} bin/${dll}.dll outputs)
+  endforeach()
+  get_property(folders GLOBAL PROPERTY QV_PUBLIC_INCLUDE_DIRS)
+  foreach(folder ${folders})
+    file(GLOB_RECURSE headers RELATIVE ${folder} CONFIGURE_DEPENDS ${folder}/*.h)
+    foreach(header ${headers})
+      qv_stage_file(${folder}/${header} include/${header} outputs)
+    endforeach()
+  endforeach()
+  add_custom_target(qv_stage ALL DEPENDS ${outputs})
+endfunction()
+
+# qv_stage_file(SOURCE TARGET LIST): one file copied to build/stage/TARGET whenever it changes.
+function(qv_stage_file source target list)
+  add_custom_command(OUTPUT ${QV_STAGE}/${target} DEPENDS ${source}
+    COMMAND ${CMAKE_COMMAND} -E copy ${source} ${QV_STAGE}/${target})
+  set(${list} ${${list}} ${QV_STAGE}/${target} PARENT_SCOPE)
 endfunction()

@@ -1,6 +1,6 @@
 # GoogleTest is built from Debian's source package with the same toolchain as the tree.
-set(gtest_force_shared_crt ON)
-set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+set(CMAKE_POLICY_DEFAULT_CMP0077 NEW)
+set(INSTALL_GTEST OFF)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
 # qv_add_test_program(NAME KIND rules|window [LIBS target...] [EXTRA_SOURCES file...])

@@ -122,10 +122,13 @@ make_prefix() {
 
 display_file() { printf '%s/display-%s' "$WINE_HOME" "${QV_WINE_SHARD:-0}"; }
 
+# $1: process id. The number may have gone to another program since; a dead process has no command line.
+is_display_server() { [[ $(tr '\0' ' ' 2>/dev/null <"/proc/$1/cmdline") == Xvfb\ * ]]; }
+
 display_alive() {
     local number pid
-    [[ -f $(display_file) ]] && read -r number pid <"$(display_file)" && kill -0 "$pid" 2>/dev/null &&
-        [[ $(ps -o comm= -p "$pid") == Xvfb && -S /tmp/.X11-unix/X$number ]]
+    [[ -f $(display_file) ]] && read -r number pid <"$(display_file)" && is_display_server "$pid" &&
+        [[ -S /tmp/.X11-unix/X$number ]]
 }
 
 # The X server picks a free number itself, so several trees on one machine never meet.
@@ -206,7 +209,7 @@ stop_display() {
     local number pid
     [[ -f $1 ]] || return 0
     read -r number pid <"$1" || return 0
-    if [[ $(ps -o comm= -p "$pid") == Xvfb ]]; then
+    if is_display_server "$pid"; then
         kill "$pid" 2>/dev/null || true
     fi
     rm -f "$1" "$1.number"

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Installs what building, running and checking need, by Debian package name (Debian 12). Does nothing when all of
+# it is there.
+#   scripts/setup.sh [all|run]     run: without the checkers
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=scripts/lib/common.sh
+source "$here/lib/common.sh"
+# shellcheck source=scripts/lib/packages.sh
+source "$here/lib/packages.sh"
+
+case ${1:-all} in
+run) need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" ;;
+all) need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${CHECK_PACKAGES[@]}" ;;
+*) die "usage: scripts/setup.sh [all|run]" ;;
+esac
