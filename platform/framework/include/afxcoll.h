@@ -1,0 +1,13 @@
+// Arrays of common element types under their documented names. They are CArray in everything; see afxtempl.h.
+// CStringArray owns its texts; CPtrArray and CObArray do not own what their elements point to.
+#pragma once
+
+#include "afxtempl.h"
+
+class CStringArray : public CArray<CString, const CString&> {};
+class CPtrArray : public CArray<void*, void*> {};
+class CObArray : public CArray<CObject*, CObject*> {};
+class CByteArray : public CArray<BYTE, BYTE> {};
+class CWordArray : public CArray<WORD, WORD> {};
+class CDWordArray : public CArray<DWORD, DWORD> {};
+class CUIntArray : public CArray<UINT, UINT> {};
