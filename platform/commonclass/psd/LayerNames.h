@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ByteSource.h"
+#include "LegacyDecoder.h"
+#include "NameList.h"
+
+namespace _qv_commonclass::psd {
+
+enum class ReadResult {
+    Done,
+    NotPhotoshop, // another kind of file, or a header that no Photoshop document has
+    Damaged,      // lengths or signatures that do not fit together, or a file that ends too early
+    TooLarge,     // more names or tagged blocks than any real document holds
+    Unreadable,   // the source gave fewer bytes than it promised: a read error, or a file that shrinks
+                  // meanwhile
+};
+
+// UTF-16 units of all names together: room for as many layers as a document can have, each with the longest
+// name.
+inline constexpr std::size_t kMaxNameUnitsTotal = 8 * 1024 * 1024;
+
+// Reads the layer names of a Photoshop document in stored order, the bottom layer first; headers and ends of
+// groups are left out. names is replaced on Done and unchanged otherwise. A document without layers is Done
+// with no name. Throws nothing but std::bad_alloc. Work and memory are bounded by the layer records: of
+// everything else only the lengths are read.
+//
+//     NameList names;
+//     if (readLayerNames(source, decoder, names) == ReadResult::Done)
+//         for (std::size_t i = 0; i < names.size(); ++i)
+//             use(names[i]);
+ReadResult readLayerNames(ByteSource& source, const LegacyDecoder& decoder, NameList& names);
+
+} // namespace _qv_commonclass::psd

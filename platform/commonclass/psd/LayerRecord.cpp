@@ -1,0 +1,133 @@
+#include "LayerRecord.h"
+#include "LegacyName.h"
+#include <algorithm>
+#include <cstring>
+
+namespace _qv_commonclass::psd {
+
+namespace {
+
+constexpr std::uint64_t kBoundsBytes = 16;
+constexpr std::uint64_t kChannelBytes = 6;      // id and 32-bit length
+constexpr std::uint64_t kWideChannelBytes = 10; // id and 64-bit length
+constexpr std::uint16_t kMaxChannels = 64;      // 56 of the document, transparency and masks
+constexpr std::uint32_t kBlendSignature = fourLetters("8BIM");
+constexpr std::uint64_t kBlendModeAndFlagsBytes = 8;
+
+constexpr std::uint32_t kUnicodeNameKey = fourLetters("luni");
+constexpr std::uint32_t kSectionKey = fourLetters("lsct");
+constexpr std::uint32_t kNestedSectionKey = fourLetters("lsdk");
+
+enum SectionType : std::uint32_t { kOpenGroup = 1, kClosedGroup = 2, kGroupEnd = 3 };
+
+constexpr char16_t kReplacement = 0xFFFD;
+
+bool isHighSurrogate(char16_t unit) noexcept {
+    return (unit & 0xFC00) == 0xD800;
+}
+
+bool isLowSurrogate(char16_t unit) noexcept {
+    return (unit & 0xFC00) == 0xDC00;
+}
+
+// Halves of surrogate pairs without their other half would make the name unusable for every conversion after
+// this.
+void replaceLoneSurrogates(std::u16string& text) noexcept {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (isHighSurrogate(text[i]) && i + 1 < text.size() && isLowSurrogate(text[i + 1]))
+            ++i;
+        else if (isHighSurrogate(text[i]) || isLowSurrogate(text[i]))
+            text[i] = kReplacement;
+    }
+}
+
+bool skipStretch(ByteCursor& cursor) noexcept {
+    std::uint32_t length = 0;
+    return cursor.readU32(length) && cursor.skip(length);
+}
+
+} // namespace
+
+bool LayerRecord::read(ByteCursor& section) {
+    m_kind = LayerKind::Layer;
+    m_name.clear();
+    m_legacyLength = 0;
+
+    std::uint16_t channels = 0;
+    if (!section.skip(kBoundsBytes) || !section.readU16(channels) || channels > kMaxChannels)
+        return false;
+    if (!section.skip(channels * (m_width == LengthWidth::Bits64 ? kWideChannelBytes : kChannelBytes)))
+        return false;
+    std::uint32_t signature = 0;
+    std::uint32_t extraLength = 0;
+    ByteCursor extra;
+    return section.readU32(signature) && signature == kBlendSignature &&
+           section.skip(kBlendModeAndFlagsBytes) && section.readU32(extraLength) &&
+           section.enter(extraLength, extra) && readExtra(extra);
+}
+
+bool LayerRecord::readExtra(ByteCursor extra) {
+    if (extra.left() == 0)
+        return true; // the barest record: no mask, no name
+    const bool hasMaskAndRanges = skipStretch(extra) && skipStretch(extra);
+    if (!hasMaskAndRanges || !readLegacyBytes(extra))
+        return false;
+
+    bool hasUnicodeName = false;
+    TaggedBlocks blocks(extra, m_width, m_blockBudget);
+    for (TaggedBlock block; blocks.next(block);) {
+        if (block.key == kUnicodeNameKey && !hasUnicodeName) {
+            readUnicodeName(block.body);
+            hasUnicodeName = !m_name.empty();
+        } else if (block.key == kSectionKey || block.key == kNestedSectionKey) {
+            readSectionKind(block.body);
+        }
+    }
+    if (!hasUnicodeName)
+        decodeLegacyName(m_decoder, std::span(m_legacy).first(m_legacyLength), m_name);
+    return true;
+}
+
+// The bytes are copied: the blocks that follow move the window on, and only they tell whether the name is
+// needed.
+bool LayerRecord::readLegacyBytes(ByteCursor& extra) noexcept {
+    std::uint8_t length = 0;
+    if (extra.left() == 0)
+        return true;
+    if (!extra.readU8(length))
+        return false;
+    const std::uint8_t* bytes = extra.take(length);
+    if (bytes == nullptr)
+        return false;
+    std::memcpy(m_legacy.data(), bytes, length);
+    m_legacyLength = length;
+    return true;
+}
+
+// Leaves the name empty when the block does not hold what its count promises.
+void LayerRecord::readUnicodeName(ByteCursor body) {
+    std::uint32_t units = 0;
+    if (!body.readU32(units) || units > body.left() / sizeof(char16_t))
+        return;
+    const std::size_t wanted = std::min<std::size_t>(units, kMaxNameUnits);
+    const std::uint8_t* bytes = body.take(wanted * sizeof(char16_t));
+    if (bytes == nullptr)
+        return;
+    for (std::size_t i = 0; i < wanted; ++i) {
+        const char16_t unit = ByteCursor::u16Of(bytes + i * sizeof(char16_t));
+        if (unit == 0)
+            break;
+        m_name.push_back(unit);
+    }
+    if (wanted < units && !m_name.empty() && isHighSurrogate(m_name.back()))
+        m_name.pop_back(); // the cut went through a pair
+    replaceLoneSurrogates(m_name);
+}
+
+void LayerRecord::readSectionKind(ByteCursor body) noexcept {
+    std::uint32_t type = 0;
+    if (body.readU32(type) && (type == kOpenGroup || type == kClosedGroup || type == kGroupEnd))
+        m_kind = LayerKind::GroupMark;
+}
+
+} // namespace _qv_commonclass::psd

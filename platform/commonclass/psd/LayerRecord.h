@@ -1,0 +1,46 @@
+#pragma once
+
+#include "LegacyDecoder.h"
+#include "TaggedBlocks.h"
+#include <array>
+
+namespace _qv_commonclass::psd {
+
+// What a record in the layer section stands for.
+enum class LayerKind { Layer, GroupMark };
+
+// One record of the layer section, as far as its name needs it. An object is used for all records in turn and
+// so keeps its text's memory.
+class LayerRecord {
+  public:
+    // Longer names are cut here; the program that owns the format allows 255.
+    static constexpr std::size_t kMaxNameUnits = 4096;
+    // What a record takes at the least: bounds, channel count, blend mode and lengths.
+    static constexpr std::uint64_t kMinBytes = 34;
+
+    LayerRecord(LengthWidth width, const LegacyDecoder& decoder, std::uint32_t& blockBudget) noexcept
+        : m_width(width), m_decoder(decoder), m_blockBudget(blockBudget) {}
+
+    // Reads the record at the cursor and moves past it. False when it does not fit its section or is no
+    // record.
+    bool read(ByteCursor& section);
+
+    LayerKind kind() const noexcept { return m_kind; }
+    const std::u16string& name() const noexcept { return m_name; }
+
+  private:
+    bool readExtra(ByteCursor extra);
+    bool readLegacyBytes(ByteCursor& extra) noexcept;
+    void readUnicodeName(ByteCursor body);
+    void readSectionKind(ByteCursor body) noexcept;
+
+    LengthWidth m_width;
+    const LegacyDecoder& m_decoder;
+    std::uint32_t& m_blockBudget;
+    LayerKind m_kind = LayerKind::Layer;
+    std::u16string m_name;
+    std::array<std::uint8_t, 255> m_legacy{};
+    std::size_t m_legacyLength = 0;
+};
+
+} // namespace _qv_commonclass::psd

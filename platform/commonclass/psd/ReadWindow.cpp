@@ -1,0 +1,45 @@
+#include "ReadWindow.h"
+#include <algorithm>
+#include <cstring>
+
+namespace _qv_commonclass::psd {
+
+// The buffer takes one wide window beside a request's leading bytes that the former window still held.
+static constexpr std::size_t kBufferBytes = ReadWindow::kWideBytes + ReadWindow::kMaxRequestBytes;
+
+ReadWindow::ReadWindow(ByteSource& source)
+    : m_source(source), m_buffer(std::make_unique_for_overwrite<std::uint8_t[]>(kBufferBytes)),
+      m_sourceSize(source.size()) {
+}
+
+std::size_t ReadWindow::nextSpan() noexcept {
+    m_span = m_sawLongSkip ? kNarrowBytes : std::min(m_span * 2, kWideBytes);
+    m_sawLongSkip = false;
+    return m_span;
+}
+
+const std::uint8_t* ReadWindow::refill(std::uint64_t offset, std::size_t count) noexcept {
+    if (count > kMaxRequestBytes || offset > m_sourceSize || count > m_sourceSize - offset ||
+        offset < m_begin)
+        return nullptr;
+
+    // What the old window holds of the request moves to the front; only the rest is read.
+    std::size_t kept = 0;
+    if (offset - m_begin < m_filled) {
+        kept = m_filled - static_cast<std::size_t>(offset - m_begin);
+        std::memmove(m_buffer.get(), m_buffer.get() + (offset - m_begin), kept);
+    }
+    const std::uint64_t readFrom = offset + kept;
+    const std::size_t wanted = static_cast<std::size_t>(
+        std::min<std::uint64_t>(std::max(nextSpan(), count - kept), m_sourceSize - readFrom));
+    const std::size_t got = std::min(m_source.readAt(readFrom, m_buffer.get() + kept, wanted), wanted);
+    m_begin = offset;
+    m_filled = kept + got;
+    if (m_filled < count) {
+        m_failed = true;
+        return nullptr;
+    }
+    return m_buffer.get();
+}
+
+} // namespace _qv_commonclass::psd

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ByteSource.h"
+#include <memory>
+
+namespace _qv_commonclass::psd {
+
+// A window of bytes that moves forward over a source and never reads a byte twice. Its width follows what the
+// document looks like: wide where the interesting bytes lie close together, narrow where long stretches
+// between them are skipped, because there most of a wide window would be read for nothing.
+class ReadWindow {
+  public:
+    static constexpr std::size_t kNarrowBytes = 4 * 1024;
+    static constexpr std::size_t kWideBytes = 64 * 1024;
+    // Reading 64 kB costs what four to five separate reads cost, so a skip pays for a read of its own from
+    // about this length on.
+    static constexpr std::uint64_t kLongSkipBytes = 12 * 1024;
+    static constexpr std::size_t kMaxRequestBytes = 16 * 1024;
+
+    explicit ReadWindow(ByteSource& source);
+    ReadWindow(const ReadWindow&) = delete;
+    ReadWindow& operator=(const ReadWindow&) = delete;
+
+    std::uint64_t sourceSize() const noexcept { return m_sourceSize; }
+    // Whether the source gave less than its size promised.
+    bool failed() const noexcept { return m_failed; }
+
+    // The count bytes at offset, valid until the next call. Offsets must not go back by more than what the
+    // last answer covered; count is at most kMaxRequestBytes. Null when the source has no such bytes.
+    const std::uint8_t* bytesAt(std::uint64_t offset, std::size_t count) noexcept {
+        noteSkip(offset, count);
+        if (offset >= m_begin && offset - m_begin <= m_filled && count <= m_filled - (offset - m_begin))
+            return m_buffer.get() + (offset - m_begin);
+        return refill(offset, count);
+    }
+
+  private:
+    void noteSkip(std::uint64_t offset, std::size_t count) noexcept {
+        if (offset > m_lastEnd && offset - m_lastEnd >= kLongSkipBytes)
+            m_sawLongSkip = true;
+        m_lastEnd = offset + count;
+    }
+    const std::uint8_t* refill(std::uint64_t offset, std::size_t count) noexcept;
+    std::size_t nextSpan() noexcept;
+
+    ByteSource& m_source;
+    std::unique_ptr<std::uint8_t[]> m_buffer;
+    std::uint64_t m_sourceSize;
+    std::uint64_t m_begin = 0;
+    std::uint64_t m_lastEnd = 0;
+    std::size_t m_filled = 0;
+    std::size_t m_span = kNarrowBytes / 2;
+    bool m_sawLongSkip = false;
+    bool m_failed = false;
+};
+
+} // namespace _qv_commonclass::psd
