@@ -17,12 +17,12 @@ class CWnd;
 // Describes one class: its name, size, base class and, for DYNCREATE classes, how to make an object.
 // One static instance a class, owned by the module that implements the class.
 struct AFXFRAME_API CRuntimeClass {
-    LPCSTR m_lpszClassName;               // ASCII, never null
-    int m_nObjectSize;                    // bytes
-    UINT m_wSchema;                       // 0xFFFF: the class takes no part in serialisation
-    CObject*(PASCAL* m_pfnCreateObject)();    // null: objects cannot be made by class
+    LPCSTR m_lpszClassName;                      // ASCII, never null
+    int m_nObjectSize;                           // bytes
+    UINT m_wSchema;                              // 0xFFFF: the class takes no part in serialisation
+    CObject*(PASCAL* m_pfnCreateObject)();       // null: objects cannot be made by class
     CRuntimeClass*(PASCAL* m_pfnGetBaseClass)(); // null: the root class
-    CRuntimeClass* m_pNextClass;          // link of the owning module's class list
+    CRuntimeClass* m_pNextClass;                 // link of the owning module's class list
 
     // A new object of the class on the heap (the caller deletes it), or null when the class cannot make one.
     CObject* CreateObject();
@@ -43,50 +43,52 @@ struct AFXFRAME_API AFX_CLASSINIT {
     AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
     AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
 
-private:
+  private:
     CRuntimeClass* m_pClass;
 };
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 
-#define DECLARE_DYNAMIC(class_name)                                                                                    \
-protected:                                                                                                             \
-    static CRuntimeClass* PASCAL _GetBaseClass();                                                                      \
-                                                                                                                       \
-public:                                                                                                                \
-    static CRuntimeClass class##class_name;                                                                            \
-    static CRuntimeClass* PASCAL GetThisClass();                                                                       \
+#define DECLARE_DYNAMIC(class_name)                                                                          \
+  protected:                                                                                                 \
+    static CRuntimeClass* PASCAL _GetBaseClass();                                                            \
+                                                                                                             \
+  public:                                                                                                    \
+    static CRuntimeClass class##class_name;                                                                  \
+    static CRuntimeClass* PASCAL GetThisClass();                                                             \
     CRuntimeClass* GetRuntimeClass() const override;
 
-#define DECLARE_DYNCREATE(class_name)                                                                                  \
-    DECLARE_DYNAMIC(class_name)                                                                                        \
+#define DECLARE_DYNCREATE(class_name)                                                                        \
+    DECLARE_DYNAMIC(class_name)                                                                              \
     static CObject* PASCAL CreateObject();
 
-#define AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, pfnNew)                                                \
-    CRuntimeClass* PASCAL class_name::_GetBaseClass() {                                                                \
-        return RUNTIME_CLASS(base_class_name);                                                                         \
-    }                                                                                                                  \
-    CRuntimeClass class_name::class##class_name = {                                                                    \
-        #class_name, static_cast<int>(sizeof(class class_name)), 0xFFFF, pfnNew, &class_name::_GetBaseClass, nullptr}; \
-    CRuntimeClass* PASCAL class_name::GetThisClass() {                                                                 \
-        return &class_name::class##class_name;                                                                         \
-    }                                                                                                                  \
-    CRuntimeClass* class_name::GetRuntimeClass() const {                                                               \
-        return &class_name::class##class_name;                                                                         \
+#define AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, pfnNew)                                      \
+    CRuntimeClass* PASCAL class_name::_GetBaseClass() {                                                      \
+        return RUNTIME_CLASS(base_class_name);                                                               \
+    }                                                                                                        \
+    CRuntimeClass class_name::class##class_name = {                                                          \
+        #class_name, static_cast<int>(sizeof(class class_name)), 0xFFFF, pfnNew, &class_name::_GetBaseClass, \
+        nullptr};                                                                                            \
+    CRuntimeClass* PASCAL class_name::GetThisClass() {                                                       \
+        return &class_name::class##class_name;                                                               \
+    }                                                                                                        \
+    CRuntimeClass* class_name::GetRuntimeClass() const {                                                     \
+        return &class_name::class##class_name;                                                               \
     }
 
-#define IMPLEMENT_DYNAMIC(class_name, base_class_name) AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, nullptr)
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, nullptr)
 
-#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
-    CObject* PASCAL class_name::CreateObject() {                                                                       \
-        return new class_name;                                                                                         \
-    }                                                                                                                  \
-    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, &class_name::CreateObject)                                 \
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                     \
+    CObject* PASCAL class_name::CreateObject() {                                                             \
+        return new class_name;                                                                               \
+    }                                                                                                        \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, &class_name::CreateObject)                       \
     static const AFX_CLASSINIT _init_##class_name(RUNTIME_CLASS(class_name));
 
 // Root of all framework classes. Objects are not copied.
 class AFXFRAME_API CObject {
-public:
+  public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject();
 
@@ -98,10 +100,10 @@ public:
     static CRuntimeClass classCObject;
     static CRuntimeClass* PASCAL GetThisClass();
 
-protected:
+  protected:
     CObject();
 
-private:
+  private:
     CObject(const CObject&) = delete;
     CObject& operator=(const CObject&) = delete;
 };
@@ -109,7 +111,7 @@ private:
 // pObject when it is of class pClass (or derives from it), else null; null stays null.
 AFXFRAME_API CObject* AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
 
-#define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                 \
     (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
 #define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
 
@@ -117,7 +119,7 @@ AFXFRAME_API CObject* AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject
 // leaves the framework: window procedures and hooks catch what their handlers let go.
 class AFXFRAME_API CException : public CObject {
     DECLARE_DYNAMIC(CException)
-public:
+  public:
     // bAutoDelete: TRUE when the object is on the heap and Delete shall free it.
     explicit CException(BOOL bAutoDelete = TRUE);
     void Delete();
@@ -126,14 +128,14 @@ public:
     // Shows the text in a message box; returns the box's answer, 0 when there is no text.
     virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 
-private:
+  private:
     BOOL m_bAutoDelete;
 };
 
 // Thrown to stop an operation about which the user has been told already (data exchange uses it).
 class AFXFRAME_API CUserException : public CException {
     DECLARE_DYNAMIC(CUserException)
-public:
+  public:
     explicit CUserException(BOOL bAutoDelete = TRUE);
 };
 

@@ -96,7 +96,7 @@ enum AfxSig : UINT_PTR {
     AfxSig_v_uuu,                  // void (UINT w, UINT lo l, UINT hi l)
     AfxSig_v_scroll,               // void (UINT lo w, UINT hi w, CScrollBar* l)
     AfxSig_v_scroll_reflect,       // void (UINT lo w, UINT hi w)
-    AfxSig_v_timer,             // void (UINT_PTR w)
+    AfxSig_v_timer,                // void (UINT_PTR w)
     AfxSig_v_Wp,                   // void (CWnd* w, CPoint l)
     AfxSig_b_help,                 // BOOL (HELPINFO*)
     AfxSig_v_idraw,                // void (int w, DRAWITEMSTRUCT*)
@@ -120,74 +120,86 @@ enum AfxSig : UINT_PTR {
     AfxSig_count
 };
 
-#define DECLARE_MESSAGE_MAP()                                                                                          \
-protected:                                                                                                             \
-    static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                                               \
+#define DECLARE_MESSAGE_MAP()                                                                                \
+  protected:                                                                                                 \
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                                     \
     const AFX_MSGMAP* GetMessageMap() const override;
 
 // Handlers are kept as pointers of one common type and cast back to their checked type before each call.
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
-    _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wcast-function-type\"") const AFX_MSGMAP*        \
-    theClass::GetMessageMap() const {                                                                                  \
-        return GetThisMessageMap();                                                                                    \
-    }                                                                                                                  \
-    const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap() {                                                           \
-        typedef theClass ThisClass [[maybe_unused]];                                                                   \
-        typedef baseClass TheBaseClass;                                                                                \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
+    _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wcast-function-type\"")                \
+        const AFX_MSGMAP*                                                                                    \
+        theClass::GetMessageMap() const {                                                                    \
+        return GetThisMessageMap();                                                                          \
+    }                                                                                                        \
+    const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap() {                                                 \
+        typedef theClass ThisClass [[maybe_unused]];                                                         \
+        typedef baseClass TheBaseClass;                                                                      \
         static const AFX_MSGMAP_ENTRY _messageEntries[] = {
 
-#define END_MESSAGE_MAP()                                                                                              \
-    { 0, 0, 0, 0, AfxSig_end, nullptr }                                                                                \
-    }                                                                                                                  \
-    ;                                                                                                                  \
-    static const AFX_MSGMAP messageMap = {&TheBaseClass::GetThisMessageMap, &_messageEntries[0]};                      \
-    return &messageMap;                                                                                                \
-    }                                                                                                                  \
+#define END_MESSAGE_MAP()                                                                                    \
+    { 0, 0, 0, 0, AfxSig_end, nullptr }                                                                      \
+    }                                                                                                        \
+    ;                                                                                                        \
+    static const AFX_MSGMAP messageMap = {&TheBaseClass::GetThisMessageMap, &_messageEntries[0]};            \
+    return &messageMap;                                                                                      \
+    }                                                                                                        \
     _Pragma("GCC diagnostic pop")
 
 // One table row of a window message whose handler has the given result and arguments.
-#define AFX_ON_WND_(message, sig, result, args, handler)                                                               \
+#define AFX_ON_WND_(message, sig, result, args, handler)                                                     \
     {message, 0, 0, 0, sig, (AFX_PMSG)(static_cast<result(CWnd::*) args>(handler))},
-#define AFX_ON_CMD_(message, code, first, last, sig, result, args, handler)                                            \
-    {message, (UINT)(WORD)(int)(code), (UINT)(first), (UINT)(last), sig,                                               \
-     (AFX_PMSG)(static_cast<result(CCmdTarget::*) args>(handler))},
-#define AFX_ON_NOTIFY_(message, code, first, last, sig, result, args, handler)                                         \
-    {message, (UINT)(int)(code), (UINT)(first), (UINT)(last), sig,                                                     \
-     (AFX_PMSG)(static_cast<result(CCmdTarget::*) args>(handler))},
+#define AFX_ON_CMD_(message, code, first, last, sig, result, args, handler)                                  \
+    {message,       (UINT)(WORD)(int)(code),                                                                 \
+     (UINT)(first), (UINT)(last),                                                                            \
+     sig,           (AFX_PMSG)(static_cast<result(CCmdTarget::*) args>(handler))},
+#define AFX_ON_NOTIFY_(message, code, first, last, sig, result, args, handler)                               \
+    {message,       (UINT)(int)(code),                                                                       \
+     (UINT)(first), (UINT)(last),                                                                            \
+     sig,           (AFX_PMSG)(static_cast<result(CCmdTarget::*) args>(handler))},
 
 #define ON_MESSAGE(message, memberFxn) AFX_ON_WND_(message, AfxSig_l_wl, LRESULT, (WPARAM, LPARAM), memberFxn)
 // nMessageVariable: a static UINT that holds the number RegisterWindowMessage gave.
-#define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn)                                                             \
-    {kAfxRegisteredMessage, 0, 0, 0, (UINT_PTR)(&nMessageVariable),                                                    \
+#define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn)                                                   \
+    {kAfxRegisteredMessage,                                                                                  \
+     0,                                                                                                      \
+     0,                                                                                                      \
+     0,                                                                                                      \
+     (UINT_PTR)(&nMessageVariable),                                                                          \
      (AFX_PMSG)(static_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(memberFxn))},
 
-#define ON_COMMAND(id, memberFxn) AFX_ON_CMD_(WM_COMMAND, CN_COMMAND, id, id, AfxSigCmd_v, void, (), memberFxn)
-#define ON_COMMAND_EX(id, memberFxn)                                                                                   \
+#define ON_COMMAND(id, memberFxn)                                                                            \
+    AFX_ON_CMD_(WM_COMMAND, CN_COMMAND, id, id, AfxSigCmd_v, void, (), memberFxn)
+#define ON_COMMAND_EX(id, memberFxn)                                                                         \
     AFX_ON_CMD_(WM_COMMAND, CN_COMMAND, id, id, AfxSigCmd_EX, BOOL, (UINT), memberFxn)
-#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                                        \
+#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                              \
     AFX_ON_CMD_(WM_COMMAND, CN_COMMAND, id, idLast, AfxSigCmd_RANGE, void, (UINT), memberFxn)
-#define ON_CONTROL(wNotifyCode, id, memberFxn)                                                                         \
+#define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
     AFX_ON_CMD_(WM_COMMAND, wNotifyCode, id, id, AfxSigCmd_v, void, (), memberFxn)
-#define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                           \
+#define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                 \
     AFX_ON_CMD_(WM_COMMAND, wNotifyCode, id, idLast, AfxSigCmd_RANGE, void, (UINT), memberFxn)
-#define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                                                                     \
+#define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                                                           \
     AFX_ON_CMD_(WM_COMMAND + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxSigCmd_v, void, (), memberFxn)
 // The handler answers FALSE to let the parent see the notification as well.
-#define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn)                                                                  \
+#define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn)                                                        \
     AFX_ON_CMD_(WM_COMMAND + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxSigCmd_b, BOOL, (), memberFxn)
 
-#define ON_NOTIFY(wNotifyCode, id, memberFxn)                                                                          \
+#define ON_NOTIFY(wNotifyCode, id, memberFxn)                                                                \
     AFX_ON_NOTIFY_(WM_NOTIFY, wNotifyCode, id, id, AfxSigNotify_v, void, (NMHDR*, LRESULT*), memberFxn)
-#define ON_NOTIFY_EX(wNotifyCode, id, memberFxn)                                                                       \
+#define ON_NOTIFY_EX(wNotifyCode, id, memberFxn)                                                             \
     AFX_ON_NOTIFY_(WM_NOTIFY, wNotifyCode, id, id, AfxSigNotify_EX, BOOL, (UINT, NMHDR*, LRESULT*), memberFxn)
-#define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn)                                                            \
-    AFX_ON_NOTIFY_(WM_NOTIFY, wNotifyCode, id, idLast, AfxSigNotify_RANGE, void, (UINT, NMHDR*, LRESULT*), memberFxn)
-#define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                                         \
-    AFX_ON_NOTIFY_(WM_NOTIFY, wNotifyCode, id, idLast, AfxSigNotify_EX, BOOL, (UINT, NMHDR*, LRESULT*), memberFxn)
-#define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn)                                                                      \
-    AFX_ON_NOTIFY_(WM_NOTIFY + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxSigNotify_v, void, (NMHDR*, LRESULT*), memberFxn)
-#define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn)                                                                   \
-    AFX_ON_NOTIFY_(WM_NOTIFY + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxSigNotify_b, BOOL, (NMHDR*, LRESULT*), memberFxn)
+#define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn)                                                  \
+    AFX_ON_NOTIFY_(WM_NOTIFY, wNotifyCode, id, idLast, AfxSigNotify_RANGE, void, (UINT, NMHDR*, LRESULT*),   \
+                   memberFxn)
+#define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                               \
+    AFX_ON_NOTIFY_(WM_NOTIFY, wNotifyCode, id, idLast, AfxSigNotify_EX, BOOL, (UINT, NMHDR*, LRESULT*),      \
+                   memberFxn)
+#define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn)                                                            \
+    AFX_ON_NOTIFY_(WM_NOTIFY + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxSigNotify_v, void, (NMHDR*, LRESULT*), \
+                   memberFxn)
+#define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn)                                                         \
+    AFX_ON_NOTIFY_(WM_NOTIFY + WM_REFLECT_BASE, wNotifyCode, 0, 0, AfxSigNotify_b, BOOL, (NMHDR*, LRESULT*), \
+                   memberFxn)
 
 #include "afxmsgctl_.h"
 #include "afxmsgwnd_.h"

@@ -1,5 +1,5 @@
-// Message-map macros for window messages. Each names its handler: ON_WM_PAINT() means ThisClass::OnPaint, of the type
-// given here.
+// Message-map macros for window messages. Each names its handler: ON_WM_PAINT() means ThisClass::OnPaint, of
+// the type given here.
 #pragma once
 
 #define ON_WM_CREATE() AFX_ON_WND_(WM_CREATE, AfxSig_i_create, int, (LPCREATESTRUCT), &ThisClass::OnCreate)
@@ -108,7 +108,8 @@
 #define ON_WM_DRAWITEM()                                                                                     \
     AFX_ON_WND_(WM_DRAWITEM, AfxSig_v_idraw, void, (int, LPDRAWITEMSTRUCT), &ThisClass::OnDrawItem)
 #define ON_WM_MEASUREITEM()                                                                                  \
-    AFX_ON_WND_(WM_MEASUREITEM, AfxSig_v_imeasure, void, (int, LPMEASUREITEMSTRUCT), &ThisClass::OnMeasureItem)
+    AFX_ON_WND_(WM_MEASUREITEM, AfxSig_v_imeasure, void, (int, LPMEASUREITEMSTRUCT),                         \
+                &ThisClass::OnMeasureItem)
 #define ON_WM_DELETEITEM()                                                                                   \
     AFX_ON_WND_(WM_DELETEITEM, AfxSig_v_idelete, void, (int, LPDELETEITEMSTRUCT), &ThisClass::OnDeleteItem)
 #define ON_WM_COMPAREITEM()                                                                                  \
@@ -148,14 +149,20 @@
 #define ON_WM_DRAWITEM_REFLECT()                                                                             \
     AFX_ON_WND_(WM_DRAWITEM + WM_REFLECT_BASE, AfxSig_v_draw, void, (LPDRAWITEMSTRUCT), &ThisClass::DrawItem)
 #define ON_WM_MEASUREITEM_REFLECT()                                                                          \
-    AFX_ON_WND_(WM_MEASUREITEM + WM_REFLECT_BASE, AfxSig_v_measure, void, (LPMEASUREITEMSTRUCT), &ThisClass::MeasureItem)
+    AFX_ON_WND_(WM_MEASUREITEM + WM_REFLECT_BASE, AfxSig_v_measure, void, (LPMEASUREITEMSTRUCT),             \
+                &ThisClass::MeasureItem)
 #define ON_WM_DELETEITEM_REFLECT()                                                                           \
-    AFX_ON_WND_(WM_DELETEITEM + WM_REFLECT_BASE, AfxSig_v_delete, void, (LPDELETEITEMSTRUCT), &ThisClass::DeleteItem)
+    AFX_ON_WND_(WM_DELETEITEM + WM_REFLECT_BASE, AfxSig_v_delete, void, (LPDELETEITEMSTRUCT),                \
+                &ThisClass::DeleteItem)
 #define ON_WM_COMPAREITEM_REFLECT()                                                                          \
-    AFX_ON_WND_(WM_COMPAREITEM + WM_REFLECT_BASE, AfxSig_i_compare, int, (LPCOMPAREITEMSTRUCT), &ThisClass::CompareItem)
+    AFX_ON_WND_(WM_COMPAREITEM + WM_REFLECT_BASE, AfxSig_i_compare, int, (LPCOMPAREITEMSTRUCT),              \
+                &ThisClass::CompareItem)
 #define ON_WM_HSCROLL_REFLECT()                                                                              \
-    AFX_ON_WND_(WM_HSCROLL + WM_REFLECT_BASE, AfxSig_v_scroll_reflect, void, (UINT, UINT), &ThisClass::HScroll)
+    AFX_ON_WND_(WM_HSCROLL + WM_REFLECT_BASE, AfxSig_v_scroll_reflect, void, (UINT, UINT),                   \
+                &ThisClass::HScroll)
 #define ON_WM_VSCROLL_REFLECT()                                                                              \
-    AFX_ON_WND_(WM_VSCROLL + WM_REFLECT_BASE, AfxSig_v_scroll_reflect, void, (UINT, UINT), &ThisClass::VScroll)
+    AFX_ON_WND_(WM_VSCROLL + WM_REFLECT_BASE, AfxSig_v_scroll_reflect, void, (UINT, UINT),                   \
+                &ThisClass::VScroll)
 #define ON_WM_PARENTNOTIFY_REFLECT()                                                                         \
-    AFX_ON_WND_(WM_PARENTNOTIFY + WM_REFLECT_BASE, AfxSig_v_ul, void, (UINT, LPARAM), &ThisClass::ParentNotify)
+    AFX_ON_WND_(WM_PARENTNOTIFY + WM_REFLECT_BASE, AfxSig_v_ul, void, (UINT, LPARAM),                        \
+                &ThisClass::ParentNotify)

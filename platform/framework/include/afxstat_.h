@@ -9,13 +9,13 @@ class CWinApp;
 
 // What one program (or one regular library) holds. Extension modules share the state of the program.
 struct AFX_MODULE_STATE {
-    CWinApp* m_pCurrentWinApp;            // null in a program that is not built with the framework
-    HINSTANCE m_hCurrentInstanceHandle;   // the program's instance; never null
-    HINSTANCE m_hCurrentResourceHandle;   // where resource look-up starts; never null
-    LPCTSTR m_lpszCurrentAppName;         // never null, may be empty
-    CRuntimeClass* m_pClassList;          // creatable classes that no extension module has taken over
+    CWinApp* m_pCurrentWinApp;          // null in a program that is not built with the framework
+    HINSTANCE m_hCurrentInstanceHandle; // the program's instance; never null
+    HINSTANCE m_hCurrentResourceHandle; // where resource look-up starts; never null
+    LPCTSTR m_lpszCurrentAppName;       // never null, may be empty
+    CRuntimeClass* m_pClassList;        // creatable classes that no extension module has taken over
     COleObjectFactory* m_pFactoryList;
-    CDynLinkLibrary* m_pLibraryList;      // extension modules, the one loaded last first
+    CDynLinkLibrary* m_pLibraryList; // extension modules, the one loaded last first
 };
 
 // The state in force on the calling thread; never null.
@@ -25,17 +25,19 @@ AFXFRAME_API AFX_MODULE_STATE* AFXAPI AfxGetAppModuleState();
 // Puts a state in force on the calling thread and returns the one before. Null means the program's state.
 AFXFRAME_API AFX_MODULE_STATE* AFXAPI AfxSetModuleState(AFX_MODULE_STATE* pNewState);
 // The state that the calling module owns: extension modules and programs share the program's.
-inline AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() { return AfxGetAppModuleState(); }
+inline AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() {
+    return AfxGetAppModuleState();
+}
 
 // Puts a state in force for the length of a scope.
 class AFXFRAME_API AFX_MAINTAIN_STATE2 {
-public:
+  public:
     explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pNewState);
     ~AFX_MAINTAIN_STATE2();
     AFX_MAINTAIN_STATE2(const AFX_MAINTAIN_STATE2&) = delete;
     AFX_MAINTAIN_STATE2& operator=(const AFX_MAINTAIN_STATE2&) = delete;
 
-private:
+  private:
     AFX_MODULE_STATE* m_pPrevModuleState;
 };
 
@@ -57,8 +59,8 @@ private:
 struct AFX_EXTENSION_MODULE {
     BOOL bInitialized;
     HMODULE hModule;
-    HMODULE hResource;                    // where the module's resources are; hModule unless set otherwise
-    CRuntimeClass* pFirstSharedClass;     // the module's creatable classes
+    HMODULE hResource;                // where the module's resources are; hModule unless set otherwise
+    CRuntimeClass* pFirstSharedClass; // the module's creatable classes
     COleObjectFactory* pFirstSharedFactory;
 };
 
@@ -68,22 +70,22 @@ AFXFRAME_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMO
 // Called at process detach: takes the module's CDynLinkLibrary out of the chain and deletes it, and forgets
 // everything else that points into the module. bAll TRUE does so for all extension modules.
 AFXFRAME_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
-// The step before a module's static objects are constructed (reason attach) and after a load that was given up
-// (reason detach); afxdllx.h calls it.
+// The step before a module's static objects are constructed (reason attach) and after a load that was given
+// up (reason detach); afxdllx.h calls it.
 AFXFRAME_API BOOL AFXAPI AfxRawExtensionEntry(HINSTANCE hInstance, DWORD dwReason);
 
 // Makes an extension module known to the program. Created on the heap in the module's attach step; the chain
 // owns it until AfxTermExtensionModule.
 class AFXFRAME_API CDynLinkLibrary : public CObject {
     DECLARE_DYNAMIC(CDynLinkLibrary)
-public:
+  public:
     // bSystem TRUE: a module of the system, asked for resources after all others.
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
     ~CDynLinkLibrary() override;
 
     HMODULE m_hModule;
-    HMODULE m_hResource;                  // null: the module has no resources to offer
+    HMODULE m_hResource; // null: the module has no resources to offer
     CRuntimeClass* m_pClassList;
     COleObjectFactory* m_pFactoryList;
     BOOL m_bSystem;
