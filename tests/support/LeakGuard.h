@@ -1,0 +1,37 @@
+// Says whether code leaves something behind.
+//
+//   expectNoLeak(200, [] { openAndCloseTheDialog(); });
+//
+// or, around a stretch of a test whose code ran once before:
+//
+//   LeakGuard guard;
+//   openAndCloseTheDialog();
+//   guard.expectNothingLeft();
+#pragma once
+
+#include "Census.h"
+
+#include <functional>
+
+namespace qvtest {
+
+class LeakGuard {
+  public:
+    LeakGuard();
+
+    // Fails the test when any kind of object has grown or shrunk since the guard was made. heapTolerance:
+    // blocks that the heap may have grown by; negative: the heap is not looked at.
+    void expectNothingLeft(long heapTolerance = -1) const;
+
+  private:
+    Census m_before;
+};
+
+// Runs an action ten times to warm up, takes a census, runs it as often as told and expects every count
+// unchanged. The heap may have grown by less than one block in two runs: what is lost in each run is found,
+// one-time caches are not.
+void expectNoLeak(int runs, const std::function<void()>& action);
+
+inline constexpr int kWarmUpRuns = 10;
+
+} // namespace qvtest

@@ -1,0 +1,43 @@
+#include "TempFolder.h"
+
+#include <windows.h>
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace qvtest {
+
+TempFolder::TempFolder() {
+    static std::atomic<unsigned> serial{0};
+    const std::wstring name =
+        L"qvtest-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++serial);
+    const auto path = std::filesystem::canonical(std::filesystem::temp_directory_path()) / name;
+    std::filesystem::create_directories(path);
+    m_path = path.wstring();
+}
+
+TempFolder::~TempFolder() {
+    std::error_code ignored; // a file still open stays behind in the temporary folder
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+std::wstring TempFolder::file(const std::wstring& relative, const std::string& bytes) const {
+    const std::filesystem::path target = path(relative);
+    std::filesystem::create_directories(target.parent_path());
+    std::ofstream(target, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return target.wstring();
+}
+
+std::wstring TempFolder::folder(const std::wstring& relative) const {
+    std::filesystem::create_directories(path(relative));
+    return path(relative);
+}
+
+std::string readFile(const std::wstring& path) {
+    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+} // namespace qvtest

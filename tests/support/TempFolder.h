@@ -1,0 +1,38 @@
+// A folder of its own for a test, deleted with everything in it at the end of the scope.
+//
+//   TempFolder folder;
+//   std::wstring path = folder.file(L"a.txt", "content");
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace qvtest {
+
+class TempFolder {
+  public:
+    TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    ~TempFolder();
+
+    // Absolute, without a back-slash at the end.
+    const std::wstring& path() const { return m_path; }
+
+    // The path of something inside; nothing is made.
+    std::wstring path(const std::wstring& relative) const { return m_path + L"\\" + relative; }
+
+    // Makes a file with these bytes, and the folders on its way; returns its path.
+    std::wstring file(const std::wstring& relative, const std::string& bytes = {}) const;
+
+    // Makes a folder and those on its way; returns its path.
+    std::wstring folder(const std::wstring& relative) const;
+
+  private:
+    std::wstring m_path;
+};
+
+// The bytes of a file; empty when it cannot be read.
+std::string readFile(const std::wstring& path);
+
+} // namespace qvtest
