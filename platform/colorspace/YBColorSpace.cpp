@@ -60,8 +60,8 @@ YBPixelRGB YCbCrToRGB(int matrix, YBPixelYCbCr pixel) {
 }
 
 template <class Source, class Target>
-void ConvertRow(Target (*convert)(const LumaWeights&, Source), int matrix, const Source* source, Target* target,
-                int count) {
+void ConvertRow(Target (*convert)(const LumaWeights&, Source), int matrix, const Source* source,
+                Target* target, int count) {
     if (!source || !target)
         return;
     const LumaWeights weights = WeightsOf(matrix);
@@ -85,8 +85,9 @@ double LumaPercentToCode(double percent) {
     return kBlackCode + percent * kLumaCodes / 100.0;
 }
 
-constexpr YBColorSpaceApi kApi = {sizeof(YBColorSpaceApi), YB_COLORSPACE_VERSION, RGBToYCbCr,       YCbCrToRGB,
-                                  RGBRowToYCbCr,           YCbCrRowToRGB,         LumaCodeToPercent, LumaPercentToCode};
+constexpr YBColorSpaceApi kApi = {
+    sizeof(YBColorSpaceApi), YB_COLORSPACE_VERSION, RGBToYCbCr,        YCbCrToRGB,
+    RGBRowToYCbCr,           YCbCrRowToRGB,         LumaCodeToPercent, LumaPercentToCode};
 
 } // namespace
 

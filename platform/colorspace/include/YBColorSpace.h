@@ -31,15 +31,15 @@ struct YBPixelRGB {
     unsigned char r, g, b;
 };
 
-// 8-bit Y'CbCr, narrow range as in BT.601 and BT.709: Y' 16 black, 235 reference white; Cb and Cr 128 neutral,
-// 16 and 240 the ends of the nominal excursion.
+// 8-bit Y'CbCr, narrow range as in BT.601 and BT.709: Y' 16 black, 235 reference white; Cb and Cr 128
+// neutral, 16 and 240 the ends of the nominal excursion.
 struct YBPixelYCbCr {
     unsigned char y, cb, cr;
 };
 
-// The table of functions. No function fails: an unknown matrix is taken as YB_MATRIX_BT709, results are rounded
-// to the nearest code (halves away from zero) and limited to 0..255, a null pixel pointer or a count below one
-// makes a row function do nothing.
+// The table of functions. No function fails: an unknown matrix is taken as YB_MATRIX_BT709, results are
+// rounded to the nearest code (halves away from zero) and limited to 0..255, a null pixel pointer or a count
+// below one makes a row function do nothing.
 struct YBColorSpaceApi {
     unsigned int nStructBytes; // sizeof(YBColorSpaceApi) of the library
     unsigned int nVersion;     // YB_COLORSPACE_VERSION of the library
@@ -51,8 +51,8 @@ struct YBColorSpaceApi {
     void (*pfnRGBRowToYCbCr)(int nMatrix, const YBPixelRGB* pSource, YBPixelYCbCr* pTarget, int nCount);
     void (*pfnYCbCrRowToRGB)(int nMatrix, const YBPixelYCbCr* pSource, YBPixelRGB* pTarget, int nCount);
 
-    // Luminance as a percentage of the black-to-white range (0 at code 16, 100 at code 235) and as an 8-bit code.
-    // Neither is rounded nor limited; NaN gives NaN.
+    // Luminance as a percentage of the black-to-white range (0 at code 16, 100 at code 235) and as an 8-bit
+    // code. Neither is rounded nor limited; NaN gives NaN.
     double (*pfnLumaCodeToPercent)(double dCode);
     double (*pfnLumaPercentToCode)(double dPercent);
 };

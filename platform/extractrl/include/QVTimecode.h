@@ -8,10 +8,11 @@
 //   QV_ParseTimecode(L"1.0.0", rate, 0, frame);                     // 1 minute: frame 1800
 //
 // Frame 0 bears the label 00:00:00:00. Labels run round the 24-hour clock: whole days are kept apart from the
-// label (nDays), so that every 64-bit frame has exactly one label and comes back from it. A negative frame bears
-// the label of its magnitude with a minus sign, as an offset before zero.
+// label (nDays), so that every 64-bit frame has exactly one label and comes back from it. A negative frame
+// bears the label of its magnitude with a minus sign, as an offset before zero.
 //
-// All functions are plain computations: any thread, no allocation, no failure other than the documented results.
+// All functions are plain computations: any thread, no failure other than the documented
+// results.
 #pragma once
 
 #include "QVExtraCtrlDef.h"
@@ -34,9 +35,9 @@ struct QVTimecodeLabel {
 
 // How a rate counts its labels, with all fields of the rate brought into their documented bounds.
 struct QVTimecodeCount {
-    int nLabelsPerSecond;       // 25 for 25 frames a second, 30 for 29.97
-    int nDroppedPerMinute;      // labels skipped at the start of each minute except each tenth; 0 for non-drop
-    int nFramesPerLabel;        // 1 or more
+    int nLabelsPerSecond;  // 25 for 25 frames a second, 30 for 29.97
+    int nDroppedPerMinute; // labels skipped at the start of each minute except each tenth; 0 for non-drop
+    int nFramesPerLabel;   // 1 or more
     long long nLabelsPerMinute; // of a minute that skips labels
     long long nLabelsPerTenMinutes;
     long long nLabelsPerDay;
@@ -47,24 +48,27 @@ QVEXTRACTRL_API QVTimecodeCount QV_GetTimecodeCount(const _qv_commonctrl::Timeco
 QVEXTRACTRL_API bool QV_IsDropFrame(const _qv_commonctrl::TimecodeFrameRate& rate);
 
 // The label of a frame. Every frame has one.
-QVEXTRACTRL_API QVTimecodeLabel QV_FrameToLabel(long long nFrame, const _qv_commonctrl::TimecodeFrameRate& rate);
+QVEXTRACTRL_API QVTimecodeLabel QV_FrameToLabel(long long nFrame,
+                                                const _qv_commonctrl::TimecodeFrameRate& rate);
 
-// The frame of a label, the exact inverse of QV_FrameToLabel. A label that does not exist is corrected first, see
-// QV_CorrectLabel. Beyond 64 bits: the nearest 64-bit frame.
+// The frame of a label, the exact inverse of QV_FrameToLabel. A label that does not exist is corrected first,
+// see QV_CorrectLabel. Beyond 64 bits: the nearest 64-bit frame.
 QVEXTRACTRL_API long long QV_LabelToFrame(const QVTimecodeLabel& label,
                                           const _qv_commonctrl::TimecodeFrameRate& rate);
 
-// Turns a label that does not exist into one that does: negative fields become 0; a field past its end carries
-// into the next larger one (75 frames at 25 are 3 seconds), hours carry into days; a skipped drop-frame label
-// becomes the first label of that minute that exists. Returns true when anything was changed.
+// Turns a label that does not exist into one that does: negative fields become 0; a field past its end
+// carries into the next larger one (75 frames at 25 are 3 seconds), hours carry into days; a skipped
+// drop-frame label becomes the first label of that minute that exists. Returns true when anything was
+// changed.
 QVEXTRACTRL_API bool QV_CorrectLabel(QVTimecodeLabel& label, const _qv_commonctrl::TimecodeFrameRate& rate);
 
 // Room for any formatted timecode or frame count with its terminator, in characters.
 constexpr int QV_TIMECODE_CHARS = 32;
 
-// Writes "HH:MM:SS:FF" ("HH:MM:SS;FF" for drop-frame, three digits of frames for rates above 100, ".n" behind it
-// when labels are shared by several frames, '-' before it for a negative frame) and returns its length without
-// terminator. A null or too small buffer gets nothing (an empty text where there is room for one) and 0.
+// Writes "HH:MM:SS:FF" ("HH:MM:SS;FF" for drop-frame, three digits of frames for rates above 100, ".n" behind
+// it when labels are shared by several frames, '-' before it for a negative frame) and returns its length
+// without terminator. A null or too small buffer gets nothing (an empty text where there is room for one) and
+// 0.
 QVEXTRACTRL_API int QV_FormatTimecode(long long nFrame, const _qv_commonctrl::TimecodeFrameRate& rate,
                                       wchar_t* pText, int nTextChars);
 
@@ -75,17 +79,19 @@ enum class QVTimecodeText {
 };
 
 // Reads what a person types. Spaces at both ends are left out.
-//   timecode: digits fill from the right, two to a field ("1234" is 12 seconds 34 frames; three digits of frames
-//     for rates above 100); ':' ';' '.' ',' or spaces part fields, and then fields are right-aligned too ("1.0.0"
-//     is one minute) and hold any number of digits; an empty field is 0. More than four fields are refused, a
-//     fifth behind a label with shared frames is the sub-frame.
+//   timecode: digits fill from the right, two to a field ("1234" is 12 seconds 34 frames; three digits of
+//   frames
+//     for rates above 100); ':' ';' '.' ',' or spaces part fields, and then fields are right-aligned too
+//     ("1.0.0" is one minute) and hold any number of digits; an empty field is 0. More than four fields are
+//     refused, a fifth behind a label with shared frames is the sub-frame.
 //   frame count: digits; '.' ',' and spaces between them are grouping and left out.
-//   '+' or '-' before it: relative to nCurrent ("+10" is ten frames on). '=' before it: absolute, and then a '-'
+//   '+' or '-' before it: relative to nCurrent ("+10" is ten frames on). '=' before it: absolute, and then a
+//   '-'
 //     stands for a negative frame ("=-10"). "--10" is the same as "=-10".
-// Labels that do not exist are corrected as by QV_CorrectLabel; hours past 23 run round the clock. An absolute
-// label stays in the day of nCurrent when that is not negative. Results beyond 64 bits are the nearest 64-bit
-// frame. Returns false, and nFrame untouched, for null, no digit at all, a field of more than 18 digits, or anything
-// that is not listed here.
+// Labels that do not exist are corrected as by QV_CorrectLabel; hours past 23 run round the clock. An
+// absolute label stays in the day of nCurrent when that is not negative. Results beyond 64 bits are the
+// nearest 64-bit frame. Returns false, and nFrame untouched, for null, no digit at all, a field of more than
+// 18 digits, or anything that is not listed here.
 QVEXTRACTRL_API bool QV_ParseTimecode(const wchar_t* pText, const _qv_commonctrl::TimecodeFrameRate& rate,
                                       long long nCurrent, long long& nFrame,
                                       QVTimecodeText eText = QVTimecodeText::Timecode);

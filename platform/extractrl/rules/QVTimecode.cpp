@@ -48,7 +48,8 @@ int DroppedBefore(const QVTimecodeCount& count, int minuteOfDay) {
 }
 
 bool IsSkipped(const QVTimecodeCount& count, const QVTimecodeLabel& label) {
-    return label.nSeconds == 0 && label.nMinutes % kTenMinutes != 0 && label.nFrames < count.nDroppedPerMinute;
+    return label.nSeconds == 0 && label.nMinutes % kTenMinutes != 0 &&
+           label.nFrames < count.nDroppedPerMinute;
 }
 
 // Brings a field into 0..size-1 and returns what goes into the next larger field.
@@ -159,8 +160,9 @@ long long QV_LabelToFrame(const QVTimecodeLabel& label, const TimecodeFrameRate&
     const int secondOfDay = minuteOfDay * kSecondsPerMinute + exact.nSeconds;
     const int number =
         secondOfDay * count.nLabelsPerSecond + exact.nFrames - DroppedBefore(count, minuteOfDay);
-    const auto inDay = static_cast<unsigned long long>(number) * static_cast<unsigned>(count.nFramesPerLabel) +
-                       static_cast<unsigned>(exact.nSubFrame);
+    const auto inDay =
+        static_cast<unsigned long long>(number) * static_cast<unsigned>(count.nFramesPerLabel) +
+        static_cast<unsigned>(exact.nSubFrame);
     if (exact.nDays == 0)
         return SignedFrame(exact.bNegative, inDay);
 

@@ -101,15 +101,16 @@ bool SplitFields(std::wstring_view text, std::vector<std::wstring>& fields) {
 
 // Digits without separators, cut from the right.
 void CutFields(std::vector<std::wstring>& fields, size_t frameDigits) {
-    std::wstring rest = fields.front();
-    std::vector<std::wstring> cut;
-    for (size_t width = frameDigits; cut.size() + 1 < kLabelFields && rest.size() > width;
+    const std::wstring digits = fields.front();
+    std::wstring_view rest = digits;
+    fields.clear();
+    for (size_t width = frameDigits; fields.size() + 1 < kLabelFields && rest.size() > width;
          width = kDigitsPerField) {
-        cut.insert(cut.begin(), rest.substr(rest.size() - width));
-        rest.resize(rest.size() - width);
+        fields.emplace_back(rest.substr(rest.size() - width));
+        rest.remove_suffix(width);
     }
-    cut.insert(cut.begin(), rest);
-    fields = cut;
+    fields.emplace_back(rest);
+    std::reverse(fields.begin(), fields.end());
 }
 
 bool ReadNumber(const std::wstring& digits, long long& number) {
@@ -168,8 +169,8 @@ QVTimecodeLabel CarryWide(WideFields wide, const QVTimecodeCount& count, long lo
     return label;
 }
 
-bool ParseLabel(std::wstring_view text, const Prefix& prefix, const TimecodeFrameRate& rate, long long current,
-                long long& frame) {
+bool ParseLabel(std::wstring_view text, const Prefix& prefix, const TimecodeFrameRate& rate,
+                long long current, long long& frame) {
     const QVTimecodeCount count = QV_GetTimecodeCount(rate);
     WideFields wide;
     if (!ReadFields(text, count, wide))
@@ -196,8 +197,8 @@ bool ParseCount(std::wstring_view text, const Prefix& prefix, long long current,
     for (const wchar_t c : text) {
         if (IsDigit(c)) {
             hasDigit = true;
-            magnitude = std::min(std::min(magnitude, kLargest / 10 + 1) * 10 + static_cast<unsigned>(c - L'0'),
-                                 kLargest);
+            magnitude = std::min(
+                std::min(magnitude, kLargest / 10 + 1) * 10 + static_cast<unsigned>(c - L'0'), kLargest);
         } else if (c != L'.' && c != L',' && !IsSpace(c)) {
             return false;
         }
