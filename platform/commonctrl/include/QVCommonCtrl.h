@@ -5,6 +5,7 @@
 #include "QVDict.h"
 #include "QVMemoDC.h"
 #include "QVBaseCtrl.h"
+#include "QVCaptionBand.h"
 #include "QVBaseFrame.h"
 #include "QVDialog.h"
 #include "QVButton.h"
