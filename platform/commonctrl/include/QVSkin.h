@@ -44,7 +44,7 @@ enum QVSkinColor : int {
     QVCLR_METER_WELL = 743,       // unlit meter
     QVCLR_METER_PEAK = 744,       // peak hold mark
     QVCLR_PANEL_RAISED = 730,     // raised rounded panels
-    QVCLR_CTRL_NORMAL = 800,      // push buttons, combo arrows, scroll thumbs: normal
+    QVCLR_CTRL_NORMAL = 800,      // push buttons, combo arrows: normal
     QVCLR_CTRL_HOT = 801,         // the same under the mouse
     QVCLR_CTRL_PRESSED = 802,     // the same pressed
     QVCLR_CTRL_DISABLED = 803,    // the same disabled
@@ -53,6 +53,13 @@ enum QVSkinColor : int {
     QVCLR_SCROLL_TRACK = 806,     // trough of scroll bars
     QVCLR_HEADER = 807,           // list header cells
     QVCLR_GRID = 808,             // grid lines, separators
+    QVCLR_SCROLL_THUMB = 809,     // thumb of scroll bars: 809 normal, 810 under the mouse, 811 dragged
+    QVCLR_SCROLL_THUMB_HOT = 810,
+    QVCLR_SCROLL_THUMB_PRESSED = 811,
+    QVCLR_ICON = 820,              // lines of icons
+    QVCLR_ICON_FOLDER = 821,       // back of a folder icon
+    QVCLR_ICON_FOLDER_FRONT = 822, // its front
+    QVCLR_ICON_FILE = 823,         // lines of file and drive icons
 };
 
 // Font indexes. The faces differ per script: see QV_GetFontIndex.

@@ -1,0 +1,307 @@
+#include "QVScrollSkin.h"
+
+#include "QVSkin.h"
+
+#include <commctrl.h>
+
+#include <map>
+#include <vector>
+
+namespace _qv_commonctrl {
+
+namespace {
+
+constexpr UINT_PTR kSubclassId = 0x51565342; // "QVSB"
+constexpr UINT_PTR kHotTimer = 0x51565342;
+constexpr UINT kHotTimerMs = 100; // the native bar does not always say when the mouse leaves it
+
+UINT SynchroniseMessage() {
+    static const UINT message = RegisterWindowMessageW(L"QVCommonCtrlU.SynchroniseScrollBars");
+    return message;
+}
+
+// Windows by handle; only the thread of a window touches its entry.
+std::map<HWND, ScrollSkin*>& Registry() {
+    static std::map<HWND, ScrollSkin*> registry;
+    return registry;
+}
+
+enum class Effect { None, Now, Soon };
+
+// What a message may do to the scroll bars of a list, tree, edit or list box.
+Effect EffectOf(UINT message) {
+    switch (message) {
+    case WM_PAINT:
+    case WM_NCPAINT:
+    case WM_SIZE:
+    case WM_WINDOWPOSCHANGED:
+    case WM_SHOWWINDOW:
+    case WM_STYLECHANGED:
+    case WM_ENABLE:
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_KEYDOWN:
+        return Effect::Now;
+    case WM_TIMER:
+    case WM_SETREDRAW:
+    case WM_SETFONT:
+    case WM_SETTEXT:
+    case WM_CHAR:
+    case WM_LBUTTONDOWN:
+        return Effect::Soon;
+    default: // any control's own messages: at most one look for all that come in a row
+        return message >= EM_GETSEL && message < WM_MOUSEFIRST ? Effect::Soon
+               : message >= LVM_FIRST && message < 0x2000      ? Effect::Soon
+                                                               : Effect::None;
+    }
+}
+
+bool IsNonClientButtonDown(UINT message) {
+    return message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK;
+}
+
+} // namespace
+
+ScrollSkin::Bar::Bar(HWND target, OverlayKind kind)
+    : overlay(target, kind), id(kind == OverlayKind::Vertical ? SB_VERT : SB_HORZ),
+      objectId(kind == OverlayKind::Vertical ? OBJID_VSCROLL : OBJID_HSCROLL),
+      hitCode(kind == OverlayKind::Vertical ? HTVSCROLL : HTHSCROLL) {
+}
+
+ScrollSkin* ScrollSkin::Find(HWND wnd) {
+    const auto found = Registry().find(wnd);
+    if (found == Registry().end())
+        return nullptr;
+    DWORD_PTR data = 0;
+    if (IsWindow(wnd) && GetWindowSubclass(wnd, &ScrollSkin::SubclassProc, kSubclassId, &data) &&
+        data == reinterpret_cast<DWORD_PTR>(found->second))
+        return found->second;
+    // Somebody has put another procedure in place of the whole chain, so the end of the window went unseen.
+    delete found->second;
+    return nullptr;
+}
+
+ScrollSkin* ScrollSkin::Attach(HWND wnd) {
+    auto* skin = new ScrollSkin(wnd);
+    if (!SetWindowSubclass(wnd, &ScrollSkin::SubclassProc, kSubclassId, reinterpret_cast<DWORD_PTR>(skin))) {
+        delete skin;
+        return nullptr;
+    }
+    const LONG_PTR style = GetWindowLongPtrW(wnd, GWL_STYLE);
+    skin->m_addedClipSiblings = !(style & WS_CLIPSIBLINGS);
+    if (skin->m_addedClipSiblings) // or the native bars would paint over their overlays
+        SetWindowLongPtrW(wnd, GWL_STYLE, style | WS_CLIPSIBLINGS);
+    skin->Synchronise();
+    return skin;
+}
+
+void ScrollSkin::RefreshAll() {
+    std::vector<HWND> windows;
+    for (const auto& [wnd, skin] : Registry())
+        windows.push_back(wnd);
+    for (const HWND wnd : windows) {
+        if (GetWindowThreadProcessId(wnd, nullptr) != GetCurrentThreadId())
+            continue;
+        if (ScrollSkin* const skin = Find(wnd))
+            skin->Refresh();
+    }
+}
+
+ScrollSkin::ScrollSkin(HWND wnd)
+    : m_wnd(wnd), m_vertical(wnd, OverlayKind::Vertical), m_horizontal(wnd, OverlayKind::Horizontal),
+      m_corner(wnd, OverlayKind::Corner) {
+    Registry()[wnd] = this;
+}
+
+ScrollSkin::~ScrollSkin() {
+    Registry().erase(m_wnd);
+}
+
+void ScrollSkin::Detach() {
+    RemoveWindowSubclass(m_wnd, &ScrollSkin::SubclassProc, kSubclassId);
+    KillTimer(m_wnd, kHotTimer);
+    if (m_addedClipSiblings)
+        SetWindowLongPtrW(m_wnd, GWL_STYLE,
+                          GetWindowLongPtrW(m_wnd, GWL_STYLE) & ~static_cast<LONG_PTR>(WS_CLIPSIBLINGS));
+    const HWND wnd = m_wnd;
+    delete this;
+    RedrawWindow(wnd, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+}
+
+void ScrollSkin::Describe(QVReplaceData& data) {
+    Synchronise();
+    CRect window;
+    GetWindowRect(m_wnd, window);
+    data.hWnd = m_wnd;
+    data.bVert = !m_vertical.rect.IsRectEmpty();
+    data.bHorz = !m_horizontal.rect.IsRectEmpty();
+    data.rcVert = m_vertical.rect;
+    data.rcHorz = m_horizontal.rect;
+    if (data.bVert)
+        data.rcVert.OffsetRect(-window.left, -window.top);
+    if (data.bHorz)
+        data.rcHorz.OffsetRect(-window.left, -window.top);
+}
+
+LRESULT CALLBACK ScrollSkin::SubclassProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                          DWORD_PTR data) {
+    auto* const self = reinterpret_cast<ScrollSkin*>(data);
+    if (message == WM_NCDESTROY) {
+        RemoveWindowSubclass(wnd, &ScrollSkin::SubclassProc, kSubclassId);
+        delete self;
+        return DefSubclassProc(wnd, message, wParam, lParam);
+    }
+    return self->OnMessage(message, wParam, lParam);
+}
+
+LRESULT ScrollSkin::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND wnd = m_wnd;
+    if (message == SynchroniseMessage()) {
+        m_synchroniseAsked = false;
+        Synchronise();
+        return 0;
+    }
+    if (message == WM_TIMER && wParam == kHotTimer) {
+        OnHotTimer();
+        return 0;
+    }
+    if (IsNonClientButtonDown(message) && wParam == HTVSCROLL)
+        return OnNcButtonDown(m_vertical, message, wParam, lParam);
+    if (IsNonClientButtonDown(message) && wParam == HTHSCROLL)
+        return OnNcButtonDown(m_horizontal, message, wParam, lParam);
+    if (message == WM_NCMOUSEMOVE)
+        OnNcMouseMove(wParam, lParam);
+    const LRESULT result = DefSubclassProc(wnd, message, wParam, lParam);
+    const Effect effect = EffectOf(message);
+    if (effect == Effect::None || Find(wnd) != this) // the message may have ended the window
+        return result;
+    if (effect == Effect::Now)
+        Synchronise();
+    else
+        SynchroniseSoon();
+    return result;
+}
+
+// The native bar runs a loop of its own until the button is released; WM_VSCROLL and WM_HSCROLL keep the
+// overlay up to date meanwhile.
+LRESULT ScrollSkin::OnNcButtonDown(Bar& bar, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND wnd = m_wnd;
+    bar.pressed = PartAt(bar, CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))));
+    Synchronise();
+    const LRESULT result = DefSubclassProc(wnd, message, wParam, lParam);
+    if (Find(wnd) == this) {
+        bar.pressed = ScrollPart::None;
+        Synchronise();
+    }
+    return result;
+}
+
+void ScrollSkin::OnNcMouseMove(WPARAM hitCode, LPARAM lParam) {
+    const CPoint screen(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+    bool anyHot = false;
+    for (Bar* bar : {&m_vertical, &m_horizontal}) {
+        const ScrollPart part =
+            hitCode == static_cast<WPARAM>(bar->hitCode) ? PartAt(*bar, screen) : ScrollPart::None;
+        anyHot = anyHot || part != ScrollPart::None;
+        if (part != bar->hot) {
+            bar->hot = part;
+            Synchronise(*bar);
+        }
+    }
+    if (anyHot)
+        SetTimer(m_wnd, kHotTimer, kHotTimerMs, nullptr);
+}
+
+void ScrollSkin::OnHotTimer() {
+    CPoint cursor;
+    GetCursorPos(&cursor);
+    bool anyHot = false;
+    for (Bar* bar : {&m_vertical, &m_horizontal}) {
+        if (bar->hot == ScrollPart::None)
+            continue;
+        if (WindowFromPoint(cursor) != m_wnd || !bar->rect.PtInRect(cursor)) {
+            bar->hot = ScrollPart::None;
+            Synchronise(*bar);
+        }
+        anyHot = anyHot || bar->hot != ScrollPart::None;
+    }
+    if (!anyHot)
+        KillTimer(m_wnd, kHotTimer);
+}
+
+void ScrollSkin::SynchroniseSoon() {
+    if (!m_synchroniseAsked)
+        m_synchroniseAsked = PostMessageW(m_wnd, SynchroniseMessage(), 0, 0);
+}
+
+void ScrollSkin::Synchronise() {
+    if (m_synchronising) // painting an overlay may send messages to the window
+        return;
+    m_synchronising = true;
+    Synchronise(m_vertical);
+    Synchronise(m_horizontal);
+    m_corner.Show(CornerRect(), OverlayPicture());
+    m_synchronising = false;
+}
+
+void ScrollSkin::Synchronise(Bar& bar) {
+    const LONG_PTR style = GetWindowLongPtrW(m_wnd, GWL_STYLE);
+    SCROLLBARINFO info = {};
+    info.cbSize = sizeof(info);
+    const bool showing = (style & WS_VISIBLE) && (style & (bar.IsVertical() ? WS_VSCROLL : WS_HSCROLL)) &&
+                         GetScrollBarInfo(m_wnd, bar.objectId, &info) &&
+                         !(info.rgstate[0] & STATE_SYSTEM_INVISIBLE);
+    if (!showing) {
+        bar.rect.SetRectEmpty();
+        bar.overlay.Hide();
+        return;
+    }
+    bar.rect = info.rcScrollBar;
+    bar.overlay.Show(bar.rect, {ShapeOf(bar, info), bar.hot, bar.pressed});
+}
+
+ScrollBarShape ScrollSkin::ShapeOf(const Bar& bar, const SCROLLBARINFO& info) const {
+    ScrollBarShape shape;
+    shape.length = bar.IsVertical() ? bar.rect.Height() : bar.rect.Width();
+    shape.arrow = ArrowLength(shape.length, GetSystemMetrics(bar.IsVertical() ? SM_CYVSCROLL : SM_CXHSCROLL));
+    shape.thumbBegin = info.xyThumbTop;
+    shape.thumbEnd = info.xyThumbBottom;
+    SCROLLINFO scroll = {};
+    scroll.cbSize = sizeof(scroll);
+    scroll.fMask = SIF_ALL;
+    const bool known = GetScrollInfo(m_wnd, bar.id, &scroll);
+    const bool nothingToScroll =
+        known && static_cast<long long>(scroll.nMax) - scroll.nMin < static_cast<long long>(scroll.nPage);
+    shape.enabled = IsWindowEnabled(m_wnd) && !(info.rgstate[0] & STATE_SYSTEM_UNAVAILABLE) &&
+                    !(known && nothingToScroll);
+    // A dragged thumb follows the mouse, whether or not the window scrolls along.
+    if (known && bar.pressed == ScrollPart::Thumb)
+        return WithThumbAt(shape, {scroll.nMin, scroll.nMax, scroll.nPage, scroll.nPos}, scroll.nTrackPos);
+    return shape;
+}
+
+ScrollPart ScrollSkin::PartAt(const Bar& bar, CPoint screen) const {
+    SCROLLBARINFO info = {};
+    info.cbSize = sizeof(info);
+    if (!GetScrollBarInfo(m_wnd, bar.objectId, &info) || !bar.rect.PtInRect(screen))
+        return ScrollPart::None;
+    return HitScrollPart(ShapeOf(bar, info),
+                         bar.IsVertical() ? screen.y - bar.rect.top : screen.x - bar.rect.left);
+}
+
+CRect ScrollSkin::CornerRect() const {
+    if (m_vertical.rect.IsRectEmpty() || m_horizontal.rect.IsRectEmpty())
+        return CRect();
+    return CRect(m_vertical.rect.left, m_horizontal.rect.top, m_vertical.rect.right,
+                 m_horizontal.rect.bottom);
+}
+
+void ScrollSkin::Refresh() {
+    Synchronise();
+    m_vertical.overlay.Repaint();
+    m_horizontal.overlay.Repaint();
+    m_corner.Repaint();
+}
+
+} // namespace _qv_commonctrl

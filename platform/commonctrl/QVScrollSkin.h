@@ -1,0 +1,66 @@
+// QVScrollSkin.h: what makes one window's scroll bars skinned.
+#pragma once
+
+#include "QVReplaceWnd.h"
+#include "QVScrollOverlay.h"
+
+namespace _qv_commonctrl {
+
+// The native bars stay where they are and do all the work: tracking, auto-repeat, the menu, 32-bit positions.
+// They are covered by overlays that show their state with the skin and let the mouse through. The object
+// hangs on the window by a subclass procedure and dies with it.
+class ScrollSkin {
+  public:
+    // Null when the window cannot be subclassed (another thread's).
+    static ScrollSkin* Attach(HWND wnd);
+    // The object of a window; null when it has none.
+    static ScrollSkin* Find(HWND wnd);
+    // Shows every replaced window of the calling thread with the present skin.
+    static void RefreshAll();
+
+    // Gives the native bars back and deletes the object.
+    void Detach();
+    void Describe(QVReplaceData& data);
+
+  private:
+    struct Bar {
+        ScrollOverlay overlay;
+        int id;        // SB_VERT, SB_HORZ
+        LONG objectId; // OBJID_VSCROLL, OBJID_HSCROLL
+        int hitCode;   // HTVSCROLL, HTHSCROLL
+        CRect rect;    // screen; empty while the bar does not show
+        ScrollPart hot = ScrollPart::None;
+        ScrollPart pressed = ScrollPart::None;
+
+        Bar(HWND target, OverlayKind kind);
+        bool IsVertical() const { return id == SB_VERT; }
+    };
+
+    explicit ScrollSkin(HWND wnd);
+    ~ScrollSkin();
+
+    static LRESULT CALLBACK SubclassProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                         DWORD_PTR self);
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT OnNcButtonDown(Bar& bar, UINT message, WPARAM wParam, LPARAM lParam);
+    void OnNcMouseMove(WPARAM hitCode, LPARAM screenPoint);
+    void OnHotTimer();
+
+    void Synchronise(); // reads the native bars and shows what has changed
+    void SynchroniseSoon();
+    void Synchronise(Bar& bar);
+    ScrollBarShape ShapeOf(const Bar& bar, const SCROLLBARINFO& info) const;
+    ScrollPart PartAt(const Bar& bar, CPoint screen) const;
+    CRect CornerRect() const;
+    void Refresh();
+
+    HWND m_wnd;
+    Bar m_vertical;
+    Bar m_horizontal;
+    ScrollOverlay m_corner;
+    bool m_addedClipSiblings = false;
+    bool m_synchroniseAsked = false;
+    bool m_synchronising = false;
+};
+
+} // namespace _qv_commonctrl

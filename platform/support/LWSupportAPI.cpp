@@ -1,0 +1,7 @@
+#include "LWSupportAPI.h"
+
+#include <QVDict.h>
+
+CString LWLoadString(LPCWSTR key) {
+    return _qv_commonctrl::QV_LoadSysString(key);
+}
