@@ -5,7 +5,8 @@ add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM
 
 # qv_add_test_program(NAME KIND rules|window [LIBS target...] [EXTRA_SOURCES file...])
 # All .cpp and .rc files of the calling folder make one program. Table tests (rules) are one ctest entry a
-# program; window tests are one ctest entry a case, each in a process of its own, one at a time on the display.
+# program; window tests are one ctest entry a case, each in a process of its own, which has one of two displays for
+# itself: ctest -j 2 is safe.
 function(qv_add_test_program name)
   cmake_parse_arguments(ARG "" "KIND" "LIBS;EXTRA_SOURCES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
@@ -20,10 +21,13 @@ function(qv_add_test_program name)
   if(ARG_KIND STREQUAL "window")
     include(GoogleTest)
     gtest_discover_tests(${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-      PROPERTIES RESOURCE_LOCK display TIMEOUT 120 LABELS window
-      FAIL_REGULAR_EXPRESSION "wine: Unhandled;err:heap:")
+      NO_PRETTY_VALUES
+      PROPERTIES TIMEOUT 120 LABELS window ENVIRONMENT "QV_WINE_SHARDS=2;WINEDEBUG=-all,err+heap,warn+heap"
+      FAIL_REGULAR_EXPRESSION "wine: Unhandled|err:heap:")
   else()
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 120 LABELS rules FAIL_REGULAR_EXPRESSION "wine: Unhandled;err:heap:")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 LABELS rules
+      ENVIRONMENT "WINEDEBUG=-all,err+heap,warn+heap"
+      FAIL_REGULAR_EXPRESSION "wine: Unhandled|err:heap:")
   endif()
 endfunction()

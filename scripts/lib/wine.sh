@@ -198,6 +198,24 @@ wine_ready() {
     exec 9>&-
 }
 
+# Runs a program while no other one of this kind runs on its display: focus, mouse and clipboard are one for all.
+# The lock stays with this shell and not with the program, whose children may outlive it.
+run_on_free_shard() {
+    local shard
+    mkdir -p "$WINE_HOME"
+    while :; do
+        for ((shard = 0; shard < QV_WINE_SHARDS; ++shard)); do
+            exec 8>"$WINE_HOME/shard-$shard.lock"
+            if flock -n 8; then
+                QV_WINE_SHARD=$shard wine_ready 8>&-
+                "$WINE_LOADER" "$@" 8>&-
+                return
+            fi
+        done
+        sleep 0.05
+    done
+}
+
 # $1: prefix folder
 stop_server() {
     [[ -d $1 ]] || return 0

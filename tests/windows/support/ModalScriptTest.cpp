@@ -138,21 +138,11 @@ TEST(ModalScript, FailurePictureShowsTheDialog) {
 }
 
 TEST(ModalScript, ADeadThreadEndsTheProgram) {
-    const ChildResult child = runChild(programFolder() + L"\\qv_support_test.exe",
-                                       L"--gtest_also_run_disabled_tests --gtest_filter=*NeverReturns");
+    const ChildResult child =
+        runChild(programFolder() + L"\\qv_support_probe.exe", L"--gtest_filter=*NeverReturns");
     EXPECT_TRUE(child.ended);
     EXPECT_EQ(ModalScript::kHungExitCode, child.exitCode) << child.output;
     EXPECT_NE(std::string::npos, child.output.find("cannot be ended")) << child.output;
-}
-
-// Run by the test above in a process of its own.
-TEST(ModalScript, DISABLED_NeverReturns) {
-    ModalScript script(Milliseconds(300));
-    script.run([] {
-        for (;;)
-            Sleep(1000);
-        return 0;
-    });
 }
 
 } // namespace

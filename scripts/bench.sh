@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Builds and runs every program of tests/bench and prints one table: what is ours, its peer, the ratio, the goal.
+#   scripts/bench.sh [NAME-PART...]     only the programs whose names contain one of the parts
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+for part in common packages build wine benchmark; do
+    # shellcheck source=/dev/null
+    source "$here/lib/$part.sh"
+done
+
+wanted() {
+    local name=$1 part
+    shift
+    (($# > 0)) || return 0
+    for part in "$@"; do
+        [[ $name == *"$part"* ]] && return 0
+    done
+    return 1
+}
+
+# $1: program. What it prints goes to the log; its figures to a file of the same name.
+run_program() {
+    local program=$1 name
+    name=$(basename "$program" .exe)
+    say "$name" >&2
+    "$here/run-pe.sh" "$program" --benchmark_out_format=json --benchmark_counters_tabular=true \
+        "--benchmark_out=$(windows_path "$BENCH_RESULTS/$name.json")" | tee "$BENCH_RESULTS/$name.log" ||
+        warn "$name ended with an error"
+}
+
+main() {
+    need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
+    wine_stop_at_exit
+    get_benchmark_source
+    configure_tree mingw
+    (cd "$QV_ROOT" && cmake --preset mingw -Wno-dev --log-level=WARNING -DQV_BENCHMARK_SOURCE="$BENCH_SOURCE")
+    build_tree mingw all qv_benchmarks
+    rm -rf "$BENCH_RESULTS"
+    mkdir -p "$BENCH_RESULTS"
+    local program
+    for program in "$QV_BUILD"/mingw/bench/*.exe; do
+        [[ -f $program ]] || die "there is no benchmark program"
+        wanted "$(basename "$program" .exe)" "$@" && run_program "$program"
+    done
+    "$here/bench_table.py" "$BENCH_RESULTS"
+}
+
+main "$@"
