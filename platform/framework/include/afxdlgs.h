@@ -1,77 +1,90 @@
-// afxdlgs.h: the system's common dialogs as framework classes: the hook-style file dialog.
+// Common dialogs: CFileDialog, the hook-style open and save dialog of the system.
+//
+//     CFileDialog dlg(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, L"Pictures|*.png;*.jpg||", pParent);
+//     if (dlg.DoModal() == IDOK)
+//         Open(dlg.GetPathName());
+//
+// While the dialog runs, m_hWnd is the hook's child window inside the system's dialog (its GetParent). The
+// system draws and works the dialog; notifications (CDN_*) arrive in OnNotify.
 #pragma once
 
 #include "afxwin.h"
-
 #include <commdlg.h>
 
-// Base of the classes that stand for a system dialog.
 class AFXFRAME_API CCommonDialog : public CDialog {
     DECLARE_DYNAMIC(CCommonDialog)
-
   public:
     explicit CCommonDialog(CWnd* pParentWnd);
 
   protected:
-    // The system dialog ends itself; the framework's own ending must not run.
     void OnOK() override;
     void OnCancel() override;
 };
 
-// The Explorer-style open and save dialog. The object is attached to the child dialog that the system makes for its
-// hook, so GetParent() is the system dialog's frame. The getters answer for the running dialog while there is one,
-// and from m_ofn afterwards; they are meaningless before DoModal has returned IDOK once.
 class AFXFRAME_API CFileDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CFileDialog)
-
   public:
-    // Handed to the system as it stands. lpstrFile points to an internal buffer of MAX_PATH characters until the
-    // caller replaces it (and nMaxFile); the hook fields belong to this class.
-    OPENFILENAMEW m_ofn;
+    OPENFILENAME m_ofn;     // may be changed before DoModal; the strings set there are borrowed
+    BOOL m_bOpenFileDialog; // FALSE: save
 
-    // `lpszFilter`: pairs "text|pattern|", closed by another "|"; null for none. `dwSize`: size of m_ofn to state, 0 for
-    // the full one. `bVistaStyle` is accepted and has no effect: the dialog is always the hook-style one.
+    // lpszDefExt: extension appended to names without one, without its dot. lpszFileName: first content of
+    // the name field. lpszFilter: pairs "description|patterns|", ended by one more bar; null for none. dwSize
+    // and bVistaStyle are accepted and without effect: the dialog is always the hook-style one, with the full
+    // OPENFILENAME. All strings are copied.
     explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr, LPCTSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCTSTR lpszFilter = nullptr,
-                         CWnd* pParentWnd = nullptr, DWORD dwSize = 0, BOOL bVistaStyle = FALSE);
+                         CWnd* pParentWnd = nullptr, DWORD dwSize = 0, BOOL bVistaStyle = TRUE);
+    ~CFileDialog() override;
+    OPENFILENAME& GetOFN() { return m_ofn; }
+    const OPENFILENAME& GetOFN() const { return m_ofn; }
 
-    // IDOK or IDCANCEL. IDCANCEL also for a system error: see CommDlgExtendedError.
+    // IDOK, or IDCANCEL for cancel and failure (CommDlgExtendedError tells which).
     INT_PTR DoModal() override;
 
-    const OPENFILENAMEW& GetOFN() const { return m_ofn; }
-    OPENFILENAMEW& GetOFN() { return m_ofn; }
-
-    CString GetPathName() const;   // full path of the (first) file
+    // ---- Results, while the dialog runs (of the selection) and after IDOK. Any length.
+    CString GetPathName() const;   // full path; of a multi-selection the first
     CString GetFileName() const;   // name with extension
-    CString GetFileExt() const;    // extension without its dot
+    CString GetFileExt() const;    // text after the last dot of the name, empty without one
     CString GetFileTitle() const;  // name without extension
-    CString GetFolderPath() const; // shown folder, only while the dialog runs
-    BOOL GetReadOnlyPref() const;
-
-    // All chosen paths, also of a dialog without OFN_ALLOWMULTISELECT. Null: there is none (or no further one).
+    CString GetFolderPath() const; // folder in view; while the dialog runs only
+    BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
+    // The paths of a multi-selection. Null start position: none.
     POSITION GetStartPosition() const;
     CString GetNextPathName(POSITION& pos) const;
 
+    // ---- While the dialog runs; nothing otherwise. nID: a control of the system's dialog.
+    void SetControlText(int nID, LPCSTR lpsz);
+    void SetControlText(int nID, LPCWSTR lpsz);
+    void HideControl(int nID);
+    void SetDefExt(LPCSTR lpsz);
+    // The dialog's own template, shown inside the system's dialog. Set before DoModal.
+    void SetTemplate(UINT nWin3ID, UINT nWin4ID) {
+        SetTemplate(MAKEINTRESOURCEW(nWin3ID), MAKEINTRESOURCEW(nWin4ID));
+    }
+    void SetTemplate(LPCTSTR lpWin3ID, LPCTSTR lpWin4ID);
+
   protected:
-    BOOL m_bOpenFileDialog;
-    CString m_strFilter; // the filter with NULs in place of the bars
-    wchar_t m_szFileTitle[MAX_PATH];
-    wchar_t m_szFileName[MAX_PATH];
-
+    // ---- Notifications. OnFileNameOK: nonzero keeps the dialog open. OnShareViolation: OFN_SHARE*.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-
-    // What the system asks or tells while the dialog runs. The defaults accept and do nothing.
-    virtual UINT OnShareViolation(LPCTSTR lpszPathName); // OFN_SHAREWARN, OFN_SHARENOWARN or OFN_SHAREFALLTHROUGH
-    virtual BOOL OnFileNameOK();                         // nonzero: reject the name, the dialog stays open
-    virtual void OnInitDone();
-    virtual void OnFileNameChange();
-    virtual void OnFolderChange();
-    virtual void OnTypeChange();
-    virtual void OnHelp();
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    virtual UINT OnShareViolation(LPCTSTR lpszPathName);
+    virtual BOOL OnFileNameOK();
+    virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
+    virtual void OnInitDone() {}
+    virtual void OnFileNameChange() {}
+    virtual void OnFolderChange() {}
+    virtual void OnTypeChange() {}
+    virtual void OnHelp() {}
 
   private:
-    static UINT_PTR CALLBACK HookProc(HWND hDlg, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-    UINT_PTR OnHookInit(HWND hDlg);
-    CString AskRunning(UINT message) const;
-    LPCWSTR FileListEnd() const;
+    static UINT_PTR CALLBACK HookProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    CString AskDialog(UINT message) const;
+    CString FirstResultName() const;
+    void PrepareFilter(LPCTSTR lpszFilter);
+
+    static constexpr int kNameBufferChars = 32768;
+    CString m_strFilter;
+    CString m_strDefExt;
+    LPTSTR m_pszNameBuffer; // what lpstrFile points to unless the caller sets another buffer
+    TCHAR m_szFileTitle[MAX_PATH];
 };
