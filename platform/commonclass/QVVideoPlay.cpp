@@ -1,0 +1,40 @@
+#include "QVVideoPlay.h"
+#include "FileByteSource.h"
+#include "SystemLegacyDecoder.h"
+#include "psd/LayerNames.h"
+#include <utility>
+
+namespace _qv_commonclass {
+
+namespace {
+
+void store(const psd::NameList& layers, CStringArray& names) {
+    CStringArray all; // filled aside: names stays as it is when memory runs out on the way
+    all.SetSize(static_cast<INT_PTR>(layers.size()));
+    for (std::size_t i = 0; i < layers.size(); ++i) {
+        const std::u16string_view name = layers[i];
+        all.SetAt(static_cast<INT_PTR>(i),
+                  CString(reinterpret_cast<LPCWSTR>(name.data()), static_cast<int>(name.size())));
+    }
+    names.Copy(all);
+}
+
+} // namespace
+
+BOOL CQVVideoPlay::GetPsdLayerInfo(LPCWSTR path, CStringArray& names) {
+    if (path == nullptr || *path == L'\0')
+        return FALSE;
+    try {
+        FileByteSource file(path);
+        psd::NameList layers;
+        if (!file.isOpen() ||
+            psd::readLayerNames(file, SystemLegacyDecoder(), layers) != psd::ReadResult::Done)
+            return FALSE;
+        store(layers, names);
+        return TRUE;
+    } catch (...) {
+        return FALSE; // out of memory: no exception leaves this library
+    }
+}
+
+} // namespace _qv_commonclass
