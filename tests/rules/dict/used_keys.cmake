@@ -1,0 +1,17 @@
+# Writes the dictionary keys that sources and resource scripts name, one C string a line, sorted.
+set(keys "")
+foreach(folder commonwnd platform host)
+  file(GLOB_RECURSE sources ${ROOT}/${folder}/*.cpp ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.rc ${ROOT}/${folder}/*.inc)
+  foreach(source IN LISTS sources)
+    file(STRINGS ${source} lines ENCODING UTF-8 REGEX "\"(IDS|PUBLIC|ACC|EFFECT)_[A-Z0-9_]+\"")
+    string(REGEX MATCHALL "\"(IDS|PUBLIC|ACC|EFFECT)_[A-Z0-9_]+\"" found "${lines}")
+    list(APPEND keys ${found})
+  endforeach()
+endforeach()
+list(REMOVE_DUPLICATES keys)
+list(SORT keys)
+set(text "")
+foreach(key IN LISTS keys)
+  string(APPEND text "${key},\n")
+endforeach()
+file(CONFIGURE OUTPUT ${OUTPUT} CONTENT "${text}" @ONLY) # leaves an unchanged file alone
