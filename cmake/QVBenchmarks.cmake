@@ -1,11 +1,14 @@
 # Google Benchmark is built from the source folder that scripts/bench.sh names. Benchmarks are not part of the
 # default build: `qv_benchmarks` builds them all.
-set(CMAKE_POLICY_DEFAULT_CMP0077 NEW)
-set(BENCHMARK_ENABLE_TESTING OFF)
-set(BENCHMARK_ENABLE_GTEST_TESTS OFF)
-set(BENCHMARK_ENABLE_INSTALL OFF)
-set(BENCHMARK_ENABLE_WERROR OFF)
-add_subdirectory(${QV_BENCHMARK_SOURCE} ${CMAKE_BINARY_DIR}/benchmark EXCLUDE_FROM_ALL)
+#
+# Its own build file probes the machine it is configured on, which is not the one it runs on; the sources alone are
+# enough.
+file(GLOB benchmark_sources ${QV_BENCHMARK_SOURCE}/src/*.cc)
+add_library(qv_benchmark STATIC EXCLUDE_FROM_ALL ${benchmark_sources})
+target_include_directories(qv_benchmark SYSTEM PUBLIC ${QV_BENCHMARK_SOURCE}/include)
+target_compile_features(qv_benchmark PUBLIC cxx_std_20)
+target_compile_definitions(qv_benchmark PUBLIC BENCHMARK_STATIC_DEFINE PRIVATE HAVE_STD_REGEX HAVE_STEADY_CLOCK)
+target_link_libraries(qv_benchmark PUBLIC shlwapi)
 add_custom_target(qv_benchmarks)
 
 # qv_add_benchmark(NAME [LIBS target...] [EXTRA_SOURCES file...])
@@ -23,6 +26,6 @@ function(qv_add_benchmark name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
   add_executable(${name} EXCLUDE_FROM_ALL ${sources} ${ARG_EXTRA_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
-  target_link_libraries(${name} PRIVATE qv_options ${ARG_LIBS} benchmark::benchmark_main)
+  target_link_libraries(${name} PRIVATE qv_options ${ARG_LIBS} qv_benchmark)
   add_dependencies(qv_benchmarks ${name})
 endfunction()
