@@ -22,7 +22,11 @@ target_compile_definitions(qv_options INTERFACE
 # -Wno-restrict: GCC 12 sees overlapping copies in its own std::string operator+ (bug 105651).
 target_compile_options(qv_options INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wno-unknown-pragmas;-Wno-restrict;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.;-fstack-protector-strong>)
-target_link_options(qv_options INTERFACE -Wl,--no-insert-timestamp -Wl,--disable-auto-image-base -fstack-protector-strong)
+target_link_options(qv_options INTERFACE -Wl,--no-insert-timestamp -Wl,--disable-auto-image-base)
+# The stack guard's few functions are linked in: named by the compiler's option they would be one more DLL to ship.
+execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libssp.a
+  OUTPUT_VARIABLE QV_STACK_GUARD OUTPUT_STRIP_TRAILING_WHITESPACE)
+target_link_libraries(qv_options INTERFACE ${QV_STACK_GUARD})
 
 # A folder whose sources are not there yet still makes its DLL, so that the others link and run.
 function(qv_empty_source name out)
