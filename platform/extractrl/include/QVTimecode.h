@@ -62,6 +62,15 @@ QVEXTRACTRL_API long long QV_LabelToFrame(const QVTimecodeLabel& label,
 // changed.
 QVEXTRACTRL_API bool QV_CorrectLabel(QVTimecodeLabel& label, const _qv_commonctrl::TimecodeFrameRate& rate);
 
+// The fields of a label that a person changes one by one.
+enum class QVTimecodeField { Hours, Minutes, Seconds, Frames };
+
+// The frame whose label has the field nSteps higher (negative: lower), carrying into the other fields and,
+// below 00:00:00:00, into negative frames. Frames count one by one. A label that does not exist is corrected.
+// Beyond 64 bits: the nearest 64-bit frame.
+QVEXTRACTRL_API long long QV_StepTimecode(long long nFrame, const _qv_commonctrl::TimecodeFrameRate& rate,
+                                          QVTimecodeField eField, int nSteps);
+
 // Room for any formatted timecode or frame count with its terminator, in characters.
 constexpr int QV_TIMECODE_CHARS = 32;
 

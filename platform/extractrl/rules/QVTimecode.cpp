@@ -24,6 +24,7 @@ constexpr int kMinutesPerHour = 60;
 constexpr int kHoursPerDay = 24;
 constexpr int kMinutesPerDay = kHoursPerDay * kMinutesPerHour;
 constexpr int kTenMinutes = 10;
+constexpr long long kMostSteppedDays = 1'000'000'000;
 
 constexpr unsigned long long kLargestPositive = LLONG_MAX;
 constexpr unsigned long long kLargestNegative = kLargestPositive + 1;
@@ -182,6 +183,52 @@ bool QV_CorrectLabel(QVTimecodeLabel& label, const TimecodeFrameRate& rate) {
     if (isZero)
         label.bNegative = false;
     return !(label == given);
+}
+
+namespace {
+
+long long AddFrames(long long frame, long long count) {
+    long long sum = 0;
+    if (!__builtin_add_overflow(frame, count, &sum))
+        return sum;
+    return count < 0 ? LLONG_MIN : LLONG_MAX;
+}
+
+int SecondsOf(QVTimecodeField field) {
+    switch (field) {
+    case QVTimecodeField::Hours:
+        return kMinutesPerHour * kSecondsPerMinute;
+    case QVTimecodeField::Minutes:
+        return kSecondsPerMinute;
+    default:
+        return 1;
+    }
+}
+
+} // namespace
+
+long long QV_StepTimecode(long long nFrame, const TimecodeFrameRate& rate, QVTimecodeField eField,
+                          int nSteps) {
+    if (eField == QVTimecodeField::Frames)
+        return AddFrames(nFrame, nSteps);
+    const QVTimecodeCount count = QV_GetTimecodeCount(rate);
+    const long long perSecond = count.nLabelsPerSecond;
+    const long long labelStep = static_cast<long long>(SecondsOf(eField)) * perSecond * nSteps;
+    QVTimecodeLabel label = QV_FrameToLabel(nFrame, rate);
+    // So far from zero the sums below would not fit, and a skipped label more or less is not seen.
+    if (label.nDays > kMostSteppedDays)
+        return AddFrames(nFrame, labelStep * count.nFramesPerLabel);
+
+    const long long minute = (label.nDays * kHoursPerDay + label.nHours) * kMinutesPerHour + label.nMinutes;
+    const long long magnitude = (minute * kSecondsPerMinute + label.nSeconds) * perSecond + label.nFrames;
+    const long long stepped = (label.bNegative ? -magnitude : magnitude) + labelStep;
+    long long rest = stepped < 0 ? -stepped : stepped;
+    label.bNegative = stepped < 0;
+    rest = Carry(label.nFrames, rest, count.nLabelsPerSecond);
+    rest = Carry(label.nSeconds, rest, kSecondsPerMinute);
+    rest = Carry(label.nMinutes, rest, kMinutesPerHour);
+    label.nDays = Carry(label.nHours, rest, kHoursPerDay);
+    return QV_LabelToFrame(label, rate);
 }
 
 } // namespace _qv_extractrl

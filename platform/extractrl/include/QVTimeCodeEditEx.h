@@ -1,0 +1,120 @@
+// QVTimeCodeEditEx.h - a skinned edit for a frame, shown as timecode or as a frame count. Window class
+// "QVTimeCodeEditExClass".
+//
+//   auto* edit = static_cast<CQVTimeCodeEditEx*>(GetDlgItem(31033));   // made by the dialog template
+//   edit->SetFrameRate(_qv_commonctrl::TimecodeFrameRate(29.97, 1));
+//   edit->SetFrame(1800, FALSE);                                       // shows 00:01:00;02
+//
+// Keys. Timecode: with the whole text selected (Tab into it, Ctrl+A) digits fill from the right, and anything
+// that QV_ParseTimecode reads may be typed; with one field selected (click, Left, Right, Home, End) digits
+// overtype that field and go on to the next. Up, Down and the wheel change the selected field by one, with
+// Shift by ten; Delete and Backspace set it to 0. Frame count: a plain edit of digits. Both: '+' or '-' in
+// front moves the position by that much, '=' in front makes '-' a sign; Enter or leaving the edit finishes;
+// Ctrl+Z goes back to the value before the last change. Escape belongs to the dialog. Pasted texts are read
+// like typed ones; a complete label with '-' before it is a negative frame. What cannot be read is refused.
+//
+// Messages to the parent:
+//   QVN_EDITNOTIFY, 1   the frame has changed: with each key that makes one, or by SetFrame with bNotify
+//   QVN_EDITNOTIFY, 4   Enter was pressed. A parent that does not answer by posting a command has its default
+//                       button pressed, as with any edit of a dialog.
+#pragma once
+
+#include "QVExtraCtrlDef.h"
+#include "QVTimecodeFrameRate.h"
+
+#include <QVEdit.h>
+
+namespace _qv_extractrl {
+
+enum QVTimeCodeEditMode : int {
+    QVTIMECODE_LABEL = 0,  // HH:MM:SS:FF
+    QVTIMECODE_FRAMES = 1, // a plain count of frames
+};
+
+class QVEXTRACTRL_API CQVTimeCodeEditEx : public _qv_commonctrl::CQVEdit {
+    DECLARE_DYNAMIC(CQVTimeCodeEditEx)
+
+  public:
+    // 25 frames a second, timecode, frame 0.
+    CQVTimeCodeEditEx();
+    ~CQVTimeCodeEditEx() override;
+
+    // A child window of class "QVTimeCodeEditExClass". nID: control id. FALSE when the window cannot be made.
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) override;
+
+    // A QVTimeCodeEditMode; other values count as QVTIMECODE_LABEL. The frame stays.
+    void SetEditMode(int nMode);
+    int GetEditMode() const { return m_nMode; }
+
+    // The frame stays, its label is that of the new rate.
+    void SetFrameRate(_qv_commonctrl::TimecodeFrameRate rate);
+    _qv_commonctrl::TimecodeFrameRate GetFrameRate() const { return m_rate; }
+
+    // The frame, any 64-bit number. bNotify TRUE: the parent gets QVN_EDITNOTIFY 1 when the frame is another
+    // one than before. A text that is being typed is given up, unless it stands for this very frame.
+    void SetFrame(__int64 nFrame, BOOL bNotify);
+    // The frame as it stands, with what has been typed so far.
+    __int64 GetFrame() const;
+
+  protected:
+    void PostNcDestroy() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg LRESULT OnPaste(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnCut(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnClear(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnUndo(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    bool IsLabelMode() const { return m_nMode == QVTIMECODE_LABEL; }
+    bool IsReadOnly() const { return (GetStyle() & ES_READONLY) != 0; }
+    bool IsAllSelected() const;
+    int FrameDigits() const;
+    int SelectedField() const;
+    void SelectField(int nField);
+    CString FormatFrame(__int64 nFrame) const;
+    void ShowText(const CString& strText);
+    void ShowFrame();
+    bool Parse(const CString& strText, __int64 nCurrent, __int64& nFrame) const;
+    bool ReadTyped(__int64& nFrame, bool& bRelative) const;
+    bool TakeText(const CString& strText);
+    void TakeFrame(__int64 nFrame);
+    void BeginTyping();
+    bool FinishTyping();
+    void DropTyping();
+    void GoBack();
+    void TypeLabelChar(wchar_t chTyped);
+    void TypeEntryChar(wchar_t chTyped);
+    void TypeFieldDigit(int nField, wchar_t chDigit);
+    void ShowEntry();
+    void EraseBackwards();
+    void SetFieldText(int nField, const CString& strDigits);
+    void EraseSelected();
+    void TakeTyped();
+    void TypeFramesChar(wchar_t chTyped);
+    bool TypeCommand(UINT nChar);
+    bool MoveByKey(UINT nKey);
+    void Step(int nSteps);
+    void Send(int nCode);
+
+    _qv_commonctrl::TimecodeFrameRate m_rate;
+    int m_nMode = QVTIMECODE_LABEL;
+    __int64 m_nFrame = 0;
+    __int64 m_nUndoFrame = 0; // the frame before the last change
+    __int64 m_nEntryBase = 0; // the frame when typing began
+    CString m_strEntry;       // typed so far over the whole text; empty: nothing
+    int m_nFieldDigits = 0;   // digits typed into the selected field so far
+    bool m_bTyping = false;   // the text is the user's and not finished
+    bool m_bShowing = false;  // the text is being set by the control itself
+    int m_nWheelRest = 0;     // wheel movement smaller than a notch
+};
+
+} // namespace _qv_extractrl
