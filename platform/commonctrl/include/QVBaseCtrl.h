@@ -30,10 +30,17 @@ class QVCOMMONCTRL_API CQVBaseCtrl {
 
     // The skin has changed: colours, fonts and images read before are void. The base invalidates the window
     // with its frame. `reason` is 0; `wnd` is the window the object was attached with.
+    // A font of the skin that was noted is set anew.
     virtual void OnSkinChange(UINT reason, HWND wnd);
+
+  protected:
+    // To be called with the font of each WM_SETFONT: remembers which of the skin's fonts it is, if any, since
+    // the handle is void after a change of skin.
+    void NoteSkinFont(HFONT font);
 
   private:
     CWnd* m_pSkinWnd = nullptr;
+    int m_nFontIndex = -1; // -1: a font of somebody else
 };
 
 } // namespace _qv_commonctrl

@@ -17,15 +17,22 @@ enum QVAnchorMode : int {
     QVANCHOR_FILL = 8,         // keeps its distance to all four edges
 };
 
-// Further flags of SetChildWindow.
+// Further flags of SetChildWindow. With neither, QVANCHOR_FILL sizes the child and the other modes move it.
 enum QVAnchorFlags : DWORD {
-    QVANCHOR_KEEP_SIZE = 0x40000, // the child is moved, never sized
-    QVANCHOR_RESIZE = 0x80000,    // the child is sized as its mode says
+    QVANCHOR_KEEP_SIZE = 0x40000, // the child is moved, never sized (QVANCHOR_FILL: it stays where it is)
+    QVANCHOR_RESIZE = 0x80000,    // the child is sized: it keeps its distance to the opposite edges, too
 };
 
-// A mix-in beside CDialog. It takes over the non-client area: a caption band, a hairline frame and a close
-// button painted by the skin in place of the system's. A child, popup or caption-less window keeps only the
-// frame.
+// Where a child belongs that stood at `rect` while the client area had the size `from`, now that it has the
+// size `to`. Pixels; never narrower or lower than 0. An unknown mode stays. Any thread.
+QVCOMMONCTRL_API CRect QV_GetAnchoredRect(const CRect& rect, CSize from, CSize to, int mode, DWORD flags);
+
+// A mix-in beside CDialog. It takes over the non-client area: a caption band, a two-colour hairline frame
+// and, for a window with a system menu, a close button, painted by the skin in place of the system's. A
+// window without a caption gets the frame only, a child without a border style gets none. The close button is
+// greyed while SC_CLOSE is disabled in the system menu or the window is disabled. WS_CAPTION is taken from
+// the window's style, so that the system never paints a frame of its own; a window with WS_THICKFRAME is
+// sized by its edges. Windows with a menu bar are not supported.
 class QVCOMMONCTRL_API CQVBaseFrame : public CQVBaseCtrl {
   public:
     CQVBaseFrame();

@@ -29,7 +29,8 @@ struct QVCaptionFigures {
     int textInsetPx = 10;              // left edge of the text, counted from the area's left edge
     int lineInsetPx = 2;               // how far the hairline under the band stays off both ends
     int textColor = QVCLR_TEXT_WINDOW; // colour index of the text
-    int groundColor = -1;              // colour index of the area below the band; -1: left as it is
+    int inactiveTextColor = QVCLR_TEXT_DISABLED; // the same while the window is not active
+    int groundColor = -1;                        // colour index of the area below the band; -1: left as it is
 };
 
 // The band's parts, for hit tests.
@@ -53,7 +54,6 @@ class QVCOMMONCTRL_API CQVCaptionBand {
     explicit CQVCaptionBand(const QVCaptionFigures& figures = QVCaptionFigures());
     CQVCaptionBand(const CQVCaptionBand&) = delete;
     CQVCaptionBand& operator=(const CQVCaptionBand&) = delete;
-    ~CQVCaptionBand();
 
     const QVCaptionFigures& GetFigures() const { return m_figures; }
 
@@ -83,14 +83,10 @@ class QVCOMMONCTRL_API CQVCaptionBand {
   private:
     void PaintClose(CDC* dc, const CRect& area, const QVCaptionLook& look, UINT dpi);
     void PaintText(CDC* dc, const CRect& area, const QVCaptionLook& look, UINT dpi) const;
-    void LoadCloseImage(UINT dpi);
 
     QVCaptionFigures m_figures;
     BOOL m_bHot = FALSE;
     BOOL m_bPressed = FALSE;
-    CQVSkinImage* m_pCloseImage = nullptr; // of m_nImageSkin at m_nImageDpi
-    UINT m_nImageSkin = 0;
-    UINT m_nImageDpi = 0;
 };
 
 } // namespace _qv_commonctrl

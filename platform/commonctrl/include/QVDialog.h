@@ -7,10 +7,12 @@ namespace _qv_commonctrl {
 
 // A CDialog with a skinned frame. At initialisation it
 //  - sizes the window so that the client area is the template's;
-//  - passes the caption and the texts of the template's controls through the dictionary call-back, when one
-//  is set;
+//  - passes the caption and the texts of the template's controls (not of edits and combo boxes, whose text is
+//  the
+//    user's) through the dictionary call-back, when one is set;
 //  - subclasses the template's buttons, check boxes, radio buttons, group boxes, statics, edits, combo boxes,
 //    lists, trees and progress bars that no object owns yet into skinned ones (it owns these objects);
+//    owner-drawn buttons are left alone;
 //  - gives every control the skin's UI font.
 // A control that the derived dialog has subclassed before (DDX_Control, SubclassDlgItem) is left to it.
 class QVCOMMONCTRL_API CQVDialog : public CDialog, public CQVBaseFrame {
@@ -38,6 +40,10 @@ class QVCOMMONCTRL_API CQVDialog : public CDialog, public CQVBaseFrame {
     DECLARE_MESSAGE_MAP()
 
   private:
+    void TranslateTemplate();
+    void SkinTemplateControls();
+    void SetControlFonts();
+
     std::vector<CWnd*> m_ownedControls; // objects made for the template's controls; deleted with the window
 };
 

@@ -1,0 +1,58 @@
+// QVFrameImpl.h: the skinned non-client area of one window.
+#pragma once
+
+#include "QVAnchors.h"
+#include "QVCaptionBand.h"
+
+namespace _qv_commonctrl {
+
+class CQVFrameImpl {
+  public:
+    CQVFrameImpl() = default;
+    CQVFrameImpl(const CQVFrameImpl&) = delete;
+    CQVFrameImpl& operator=(const CQVFrameImpl&) = delete;
+
+    // Takes the frame over, keeping the size of the client area.
+    void Attach(HWND wnd);
+    void Detach();
+    HWND Window() const { return m_wnd; }
+
+    bool Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    CRect Edges() const;
+    void FitToClient(CSize client) const;
+
+    void SetAutoSize(bool enable, HWND host);
+    void RegisterChild(HWND child, int mode, DWORD flags);
+
+  private:
+    enum class Kind { None, FrameOnly, Caption };
+    enum class PaintPart { All, CloseButton };
+
+    static Kind KindOf(DWORD style);
+    bool HandleMouse(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    bool OnNcButtonDown(WPARAM hitCode, LPARAM screenPoint);
+    bool OnCapturedMouse(UINT message, LPARAM clientPoint);
+    bool HitTest(CPoint screen, LRESULT& result) const;
+    LRESULT SizingHit(CPoint point) const;
+    void TrackLeave() const;
+    void Paint(PaintPart part);
+    void PaintCloseIf(BOOL changed);
+    bool IsClosable() const;
+    bool HasCloseButton() const;
+    HWND AnchorHost() const { return m_anchorHost ? m_anchorHost : m_wnd; }
+
+    UINT Dpi() const { return QV_GetWindowDpi(m_wnd); }
+    CRect WindowArea() const; // the window's rectangle, moved to (0, 0)
+    CPoint ToWindow(CPoint screen) const;
+
+    HWND m_wnd = nullptr;
+    Kind m_kind = Kind::None;
+    bool m_active = false;
+    bool m_paintedClosable = true;
+    CQVCaptionBand m_band;
+    AnchoredChildren m_children;
+    HWND m_anchorHost = nullptr;
+    bool m_autoSize = false;
+};
+
+} // namespace _qv_commonctrl
