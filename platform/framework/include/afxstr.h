@@ -152,7 +152,7 @@ class AFXFRAME_API CString {
     BOOL LoadString(UINT nID); // from the chain of resource modules
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
-    BOOL GetEnvironmentVariable(LPCWSTR pszVar);
+    BOOL GetEnvironmentVariable(LPCWSTR pszVar); // a missing variable empties the text
     BSTR AllocSysString() const;          // the caller frees it with SysFreeString
     BSTR SetSysString(BSTR* pbstr) const; // reallocates *pbstr, which stays the caller's
 
