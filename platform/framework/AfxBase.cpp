@@ -6,7 +6,8 @@
 #include <limits>
 
 void AFXAPI AfxAssertFailed(const char* pszFile, int nLine, const char* pszExpression) {
-    AfxTrace(L"%S(%d): assertion failed: %S\n", pszFile ? pszFile : "?", nLine, pszExpression ? pszExpression : "?");
+    AfxTrace(L"%S(%d): assertion failed: %S\n", pszFile ? pszFile : "?", nLine,
+             pszExpression ? pszExpression : "?");
     if (::IsDebuggerPresent())
         ::DebugBreak();
 }

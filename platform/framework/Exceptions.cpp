@@ -9,8 +9,8 @@ namespace {
 BOOL SystemText(DWORD nError, LPTSTR lpszError, UINT nMaxError) {
     if (!lpszError || nMaxError == 0)
         return FALSE;
-    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, nError,
-                                          0, lpszError, nMaxError, nullptr);
+    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                          nError, 0, lpszError, nMaxError, nullptr);
     if (length == 0)
         lpszError[0] = L'\0';
     return length != 0;

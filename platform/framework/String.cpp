@@ -30,14 +30,16 @@ CString::CString(LPCSTR pszSrc) : m_pszData(s_nil.text) {
     AssignNarrow(pszSrc, StringLength(pszSrc));
 }
 
-CString::CString(const unsigned char* pszSrc) : CString(reinterpret_cast<LPCSTR>(pszSrc)) {}
+CString::CString(const unsigned char* pszSrc) : CString(reinterpret_cast<LPCSTR>(pszSrc)) {
+}
 
 CString::CString(WCHAR ch, int nRepeat) : m_pszData(s_nil.text) {
     if (nRepeat > 0)
         std::wmemset(GetBufferSetLength(nRepeat), ch, static_cast<size_t>(nRepeat));
 }
 
-CString::CString(char ch, int nRepeat) : CString(CString(&ch, 1).GetAt(0), nRepeat) {}
+CString::CString(char ch, int nRepeat) : CString(CString(&ch, 1).GetAt(0), nRepeat) {
+}
 
 CString::CString(LPCWSTR pszSrc, int nLength) : m_pszData(s_nil.text) {
     SetString(pszSrc, nLength);

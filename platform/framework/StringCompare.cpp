@@ -62,8 +62,8 @@ int CString::Find(LPCWSTR pszSub, int iStart) const noexcept {
     if (!pszSub || iStart < 0 || iStart > length)
         return -1;
     LPCWSTR const end = m_pszData + length;
-    LPCWSTR const found = std::search(static_cast<LPCWSTR>(m_pszData) + iStart, end, pszSub,
-                                      pszSub + StringLength(pszSub));
+    LPCWSTR const found =
+        std::search(static_cast<LPCWSTR>(m_pszData) + iStart, end, pszSub, pszSub + StringLength(pszSub));
     return found != end || !*pszSub ? static_cast<int>(found - m_pszData) : -1;
 }
 

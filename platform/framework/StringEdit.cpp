@@ -49,8 +49,8 @@ template <class Test> int EndKept(const CString& str, Test isTarget) noexcept {
 
 } // namespace
 
-// The one place where text is put in or taken out. psz may lie inside this text: a change that would move it under
-// the copy goes through a new buffer.
+// The one place where text is put in or taken out. psz may lie inside this text: a change that would move it
+// under the copy goes through a new buffer.
 void CString::Splice(int iIndex, int nRemoved, LPCWSTR psz, int nInserted) {
     const int length = GetLength();
     const int tail = length - iIndex - nRemoved;

@@ -88,10 +88,10 @@ void AFX_CDECL CString::AppendFormat(UINT nFormatID, ...) {
 void CString::FormatMessageV(LPCWSTR pszFormat, va_list* pArgList) {
     CString result;
     LPWSTR text = nullptr;
-    const DWORD length =
-        pszFormat ? ::FormatMessageW(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, pszFormat, 0, 0,
-                                     reinterpret_cast<LPWSTR>(&text), 0, pArgList)
-                  : 0;
+    const DWORD length = pszFormat
+                             ? ::FormatMessageW(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER,
+                                                pszFormat, 0, 0, reinterpret_cast<LPWSTR>(&text), 0, pArgList)
+                             : 0;
     if (text) {
         result.SetString(text, static_cast<int>(length));
         ::LocalFree(text);

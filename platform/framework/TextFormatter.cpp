@@ -208,7 +208,8 @@ void TextFormatter::PutPointer(const Field& field, va_list* pArgs) {
     Field whole = field;
     whole.precision = static_cast<int>(sizeof(void*)) * 2; // all hexadecimal digits
     whole.isZero = false;
-    PutNumber("llX", whole, static_cast<unsigned long long>(reinterpret_cast<ULONG_PTR>(va_arg(*pArgs, void*))));
+    PutNumber("llX", whole,
+              static_cast<unsigned long long>(reinterpret_cast<ULONG_PTR>(va_arg(*pArgs, void*))));
 }
 
 void TextFormatter::PutText(bool isWide, const Field& field, va_list* pArgs) {

@@ -221,6 +221,7 @@ class AFXFRAME_API CDC : public CObject {
 
   protected:
     static HDC HandleOf(const CDC* pDC) { return pDC ? pDC->m_hDC : nullptr; }
+    void AttachWindowDC(HDC hDC);
     CGdiObject* Current(UINT nType) const;
     CGdiObject* SelectHandle(const CGdiObject* pObject);
 };

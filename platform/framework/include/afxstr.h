@@ -153,8 +153,8 @@ class AFXFRAME_API CString {
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
     BOOL GetEnvironmentVariable(LPCWSTR pszVar); // a missing variable empties the text
-    BSTR AllocSysString() const;          // the caller frees it with SysFreeString
-    BSTR SetSysString(BSTR* pbstr) const; // reallocates *pbstr, which stays the caller's
+    BSTR AllocSysString() const;                 // the caller frees it with SysFreeString
+    BSTR SetSysString(BSTR* pbstr) const;        // reallocates *pbstr, which stays the caller's
 
     // ---- Helpers of the documented interface.
     static int StringLength(LPCWSTR psz) noexcept; // 0 for null

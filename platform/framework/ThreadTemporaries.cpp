@@ -1,0 +1,49 @@
+#include "ThreadTemporaries.h"
+
+namespace {
+
+// A fibre-local slot calls back when its thread ends, and for all threads when it is freed: no thread keeps
+// objects whose code is gone.
+class Slot {
+  public:
+    Slot() : m_index(::FlsAlloc(&Slot::Delete)) {}
+    ~Slot() {
+        const DWORD index = std::exchange(m_index, FLS_OUT_OF_INDEXES);
+        if (index != FLS_OUT_OF_INDEXES)
+            ::FlsFree(index);
+    }
+    Slot(const Slot&) = delete;
+    Slot& operator=(const Slot&) = delete;
+
+    ThreadTemporaries* Value() const {
+        return m_index != FLS_OUT_OF_INDEXES ? static_cast<ThreadTemporaries*>(::FlsGetValue(m_index))
+                                             : nullptr;
+    }
+    ThreadTemporaries& MakeValue() {
+        std::unique_ptr<ThreadTemporaries> made = std::make_unique<ThreadTemporaries>();
+        if (m_index == FLS_OUT_OF_INDEXES || !::FlsSetValue(m_index, made.get()))
+            AfxThrowMemoryException();
+        return *made.release();
+    }
+
+  private:
+    static void WINAPI Delete(PVOID value) { delete static_cast<ThreadTemporaries*>(value); }
+
+    DWORD m_index;
+};
+
+Slot& ThreadSlot() {
+    static Slot slot;
+    return slot;
+}
+
+} // namespace
+
+ThreadTemporaries& ThreadTemporaries::Get() {
+    ThreadTemporaries* const existing = GetExisting();
+    return existing ? *existing : ThreadSlot().MakeValue();
+}
+
+ThreadTemporaries* ThreadTemporaries::GetExisting() {
+    return ThreadSlot().Value();
+}
