@@ -7,13 +7,13 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 namespace {
 
-HWND HandleOf(const CWnd* pWnd) {
+HWND WindowHandle(const CWnd* pWnd) {
     return pWnd ? pWnd->m_hWnd : nullptr;
 }
 
 // A window object that has lost its window must not paint on the screen instead.
 HDC GetChecked(const CWnd* pWnd, HDC(WINAPI* get)(HWND)) {
-    HDC const dc = pWnd && !pWnd->m_hWnd ? nullptr : get(HandleOf(pWnd));
+    HDC const dc = pWnd && !pWnd->m_hWnd ? nullptr : get(WindowHandle(pWnd));
     if (!dc)
         AfxThrowResourceException();
     return dc;
@@ -28,7 +28,7 @@ void CDC::AttachWindowDC(HDC hDC) {
         m_hDC = m_hAttribDC = hDC;
 }
 
-CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(HandleOf(pWnd)) {
+CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(WindowHandle(pWnd)) {
     AttachWindowDC(GetChecked(pWnd, ::GetDC));
 }
 
@@ -36,7 +36,7 @@ CClientDC::~CClientDC() {
     ::ReleaseDC(m_hWnd, Detach());
 }
 
-CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(HandleOf(pWnd)) {
+CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(WindowHandle(pWnd)) {
     AttachWindowDC(GetChecked(pWnd, ::GetWindowDC));
 }
 
@@ -44,7 +44,7 @@ CWindowDC::~CWindowDC() {
     ::ReleaseDC(m_hWnd, Detach());
 }
 
-CPaintDC::CPaintDC(CWnd* pWnd) : m_ps(), m_hWnd(HandleOf(pWnd)) {
+CPaintDC::CPaintDC(CWnd* pWnd) : m_ps(), m_hWnd(WindowHandle(pWnd)) {
     if (!m_hWnd || !::BeginPaint(m_hWnd, &m_ps))
         AfxThrowResourceException();
     AttachWindowDC(m_ps.hdc);
@@ -60,15 +60,15 @@ CWnd* CDC::GetWindow() const {
 }
 
 int CDC::ExcludeUpdateRgn(CWnd* pWnd) {
-    return ::ExcludeUpdateRgn(m_hDC, HandleOf(pWnd));
+    return ::ExcludeUpdateRgn(m_hDC, WindowHandle(pWnd));
 }
 
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect) {
-    HWND const owner = HandleOf(pWnd);
+    HWND const owner = WindowHandle(pWnd);
     return owner ? ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, owner, lpRect) : FALSE;
 }
 
 BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm) {
-    HWND const owner = HandleOf(pWnd);
+    HWND const owner = WindowHandle(pWnd);
     return owner ? ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, owner, lptpm) : FALSE;
 }

@@ -9,13 +9,13 @@ namespace {
 int ReadNumber(LPCWSTR& psz) {
     int value = 0;
     for (; *psz >= L'0' && *psz <= L'9'; ++psz)
-        if (value < CString::kMaxField)
+        if (value < kAfxMaxFormatField)
             value = value * 10 + (*psz - L'0');
-    return value < CString::kMaxField ? value : CString::kMaxField;
+    return value < kAfxMaxFormatField ? value : kAfxMaxFormatField;
 }
 
 int Limit(long long value) {
-    return static_cast<int>(value < CString::kMaxField ? value : CString::kMaxField);
+    return static_cast<int>(value < kAfxMaxFormatField ? value : kAfxMaxFormatField);
 }
 
 int LengthWithin(LPCWSTR psz, int nLimit) {

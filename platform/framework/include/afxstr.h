@@ -18,6 +18,9 @@
 #include <cstdarg>
 #include <cwchar>
 
+// The widest field and the largest precision that CString::Format writes, in units.
+inline constexpr int kAfxMaxFormatField = 1 << 20;
+
 class AFXFRAME_API CString {
   public:
     typedef WCHAR XCHAR;
@@ -45,7 +48,7 @@ class AFXFRAME_API CString {
 
     // ---- Assignment.
     CString& operator=(const CString& strSrc);
-    CString& operator=(CString&& strSrc) noexcept;
+    CString& operator=(CString&& strSrc);
     CString& operator=(LPCWSTR pszSrc);
     CString& operator=(LPCSTR pszSrc);
     CString& operator=(const unsigned char* pszSrc);
@@ -135,8 +138,7 @@ class AFXFRAME_API CString {
 
     // ---- Formatting. %s and %c take wide, %S, %hs and %C narrow arguments; %ls and %ws wide. Sizes hh h l
     // ll I I32 I64 j t z and w; a null text prints "(null)"; %n and unknown letters print themselves. Fields
-    // are at most kMaxField wide. A null format gives the empty text.
-    static constexpr int kMaxField = 1 << 20;
+    // are at most kAfxMaxFormatField wide. A null format gives the empty text.
     void AFX_CDECL Format(LPCWSTR pszFormat, ...);
     void AFX_CDECL Format(UINT nFormatID, ...); // the format is a string resource
     void FormatV(LPCWSTR pszFormat, va_list args);
