@@ -1,0 +1,25 @@
+// How large the message box becomes for its question.
+#pragma once
+
+#include <afxwin.h>
+
+namespace _qv_commonwnd {
+
+// What is added to the measured question, in pixels at 96 DPI: 8 at the left and right, 8 above, and 78
+// below, where the tick box and the buttons stand.
+inline constexpr int kQuestionSidesPx = 8 + 8;
+inline constexpr int kQuestionTopAndBottomPx = 8 + 78;
+
+// The box's window size: the question with its margins, but not smaller than `window` (what the template
+// gave) and not larger than `workArea`. A box that is larger than the work area to begin with keeps its size.
+// All in pixels.
+CSize MessageBoxSize(CSize question, CSize window, CSize workArea, UINT dpi);
+
+// The size of a text in a control's own font, broken at its line breaks only; (0, 0) for an empty text or no
+// window.
+CSize MeasureQuestion(HWND control, const CString& text);
+
+// The work area of the monitor that a window is on, in screen pixels.
+CRect WorkAreaOf(HWND window);
+
+} // namespace _qv_commonwnd

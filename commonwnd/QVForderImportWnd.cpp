@@ -1,0 +1,84 @@
+#include "QVForderImportWnd.h"
+
+#include "QVFileDialog.h"
+
+#include <LWSupportAPI.h>
+#include <QVMemoDC.h>
+#include <QVSkin.h>
+
+namespace _qv_commonwnd {
+
+using namespace _qv_commonctrl;
+
+namespace {
+
+constexpr int kImportButtonId = 1001;
+constexpr int kButtonWidthPx = 90;
+constexpr int kButtonHeightPx = 23;
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CQVForderImportWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(CQVForderImportWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_BN_CLICKED(kImportButtonId, OnBnClickedImport)
+END_MESSAGE_MAP()
+
+CQVForderImportWnd::CQVForderImportWnd() : m_pOwnerDlg(nullptr), m_szButton(kButtonWidthPx, kButtonHeightPx) {
+}
+
+CQVForderImportWnd::~CQVForderImportWnd() = default;
+
+void CQVForderImportWnd::SetOwnerDlg(CQVFileDialog* pDlg) {
+    m_pOwnerDlg = pDlg;
+}
+
+CSize CQVForderImportWnd::GetButtonSize() const {
+    return m_szButton;
+}
+
+void CQVForderImportWnd::EnableImport(BOOL bEnable) {
+    if (m_btnImport.GetSafeHwnd())
+        m_btnImport.EnableWindow(bEnable);
+}
+
+int CQVForderImportWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    if (m_btnImport.Create(LWLoadString(L"IDS_CAPTURERENDER_IMPORTFOLDER"), WS_CHILD | WS_VISIBLE,
+                           CRect(0, 0, 0, 0), this, kImportButtonId)) {
+        m_btnImport.SetFont(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(GetSafeHwnd())));
+        m_btnImport.EnableWindow(FALSE);
+    }
+    return 0;
+}
+
+void CQVForderImportWnd::OnSize(UINT nType, int cx, int cy) {
+    CWnd::OnSize(nType, cx, cy);
+    const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
+    if (m_btnImport.GetSafeHwnd())
+        m_btnImport.MoveWindow(0, 0, QV_ScaleForDpi(m_szButton.cx, dpi), QV_ScaleForDpi(m_szButton.cy, dpi));
+}
+
+void CQVForderImportWnd::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    CQVMemoDC memory(&dc, client);
+    memory.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+}
+
+BOOL CQVForderImportWnd::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CQVForderImportWnd::OnBnClickedImport() {
+    if (m_pOwnerDlg)
+        m_pOwnerDlg->SendMessage(WM_QV_IMPORTFORDER, 0, 0);
+}
+
+} // namespace _qv_commonwnd

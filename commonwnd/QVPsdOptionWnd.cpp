@@ -1,0 +1,200 @@
+#include "QVPsdOptionWnd.h"
+
+#include <LWSupportAPI.h>
+#include <QVCommonClass.h>
+#include <QVMemoDC.h>
+#include <QVSkin.h>
+
+namespace _qv_commonwnd {
+
+using namespace _qv_commonctrl;
+
+namespace {
+
+constexpr int kImportTypeLabelId = 10000;
+constexpr int kLayerLabelId = 10001;
+constexpr int kImportTypeComboId = 20001;
+constexpr int kLayerComboId = 20002;
+
+constexpr DWORD kLabelStyle = WS_CHILD | WS_VISIBLE | SS_NOTIFY | SS_CENTERIMAGE;
+constexpr DWORD kComboStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST;
+
+// Entries of the import-type combo.
+constexpr int kRenderImport = 0;
+constexpr int kLayerImport = 1;
+
+constexpr int kLabelToComboGapPx = 24;
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CQVPsdOptionWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(CQVPsdOptionWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_QV_CHECKCOMBO_CLOSEUP, OnCloseUpMsg)
+END_MESSAGE_MAP()
+
+CQVPsdOptionWnd::CQVPsdOptionWnd()
+    : m_bEnableImportType(TRUE), m_bEnableLayer(TRUE), m_bCompileImport(TRUE), m_nRowGap(10), m_nLeft(99),
+      m_nRowHeight(20), m_nLabelWidth(69), m_nComboWidth(247), m_nDropHeight(160) {
+}
+
+CQVPsdOptionWnd::~CQVPsdOptionWnd() = default;
+
+DWORD CQVPsdOptionWnd::GetMinHeight() {
+    return static_cast<DWORD>(m_nRowGap + m_nRowHeight + m_nRowGap + m_nRowHeight);
+}
+
+int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    CreateRow(m_stcImportType, kImportTypeLabelId, L"IDS_FILEDLG_IMPORTTYPE", m_cmbImportType,
+              kImportTypeComboId);
+    m_cmbImportType.InsertString(kRenderImport, LWLoadString(L"IDS_FILEDLG_RENDERIMP"));
+    m_cmbImportType.InsertString(kLayerImport, LWLoadString(L"IDS_FILEDLG_LAYERIMP"));
+    m_cmbImportType.SetCurSel(kRenderImport);
+    m_bCompileImport = TRUE;
+    CreateRow(m_stcLayer, kLayerLabelId, L"IDS_FILEDLG_LAYER", m_cmbLayer, kLayerComboId);
+    m_cmbLayer.EnableWindow(FALSE);
+    return 0;
+}
+
+BOOL CQVPsdOptionWnd::CreateRow(CQVStatic& label, int labelId, LPCWSTR labelKey, CQVComboBox& combo,
+                                int comboId) {
+    const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
+    if (!label.Create(LWLoadString(labelKey), kLabelStyle, CRect(0, 0, 0, 0), this, labelId))
+        return FALSE;
+    label.SetFont(QV_GetSysFont(QVFONT_UI, dpi));
+    label.SetBkColorIndex(QVCLR_WINDOW);
+    const CRect dropped(0, 0, 0, QV_ScaleForDpi(m_nDropHeight, dpi));
+    if (!combo.Create(kComboStyle, dropped, this, comboId))
+        return FALSE;
+    combo.SetFont(QV_GetSysFont(QVFONT_UI, dpi));
+    return TRUE;
+}
+
+void CQVPsdOptionWnd::PlaceRow(CWnd& label, CWnd& combo, int topPx) {
+    const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
+    const int comboLeft = m_nLeft + m_nLabelWidth + kLabelToComboGapPx;
+    const int top = QV_ScaleForDpi(topPx, dpi);
+    if (label.GetSafeHwnd())
+        label.MoveWindow(QV_ScaleForDpi(m_nLeft, dpi), top, QV_ScaleForDpi(m_nLabelWidth, dpi),
+                         QV_ScaleForDpi(m_nRowHeight, dpi));
+    // A combo box takes the height of its dropped list; the closed field follows from its font.
+    if (combo.GetSafeHwnd())
+        combo.MoveWindow(QV_ScaleForDpi(comboLeft, dpi), top, QV_ScaleForDpi(m_nComboWidth, dpi),
+                         QV_ScaleForDpi(m_nRowHeight + m_nDropHeight, dpi));
+}
+
+void CQVPsdOptionWnd::OnSize(UINT nType, int cx, int cy) {
+    CWnd::OnSize(nType, cx, cy);
+    PlaceRow(m_stcImportType, m_cmbImportType, 0);
+    PlaceRow(m_stcLayer, m_cmbLayer, m_nRowHeight + m_nRowGap);
+    EnableControls();
+}
+
+BOOL CQVPsdOptionWnd::IsLayerImportChosen() const {
+    return m_cmbImportType.GetSafeHwnd() && m_cmbImportType.GetCurSel() == kLayerImport;
+}
+
+void CQVPsdOptionWnd::EnableControls() {
+    if (m_cmbImportType.GetSafeHwnd())
+        m_cmbImportType.EnableWindow(m_bEnableImportType);
+    if (m_cmbLayer.GetSafeHwnd())
+        m_cmbLayer.EnableWindow(m_bEnableLayer && IsLayerImportChosen());
+}
+
+BOOL CQVPsdOptionWnd::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CQVPsdOptionWnd::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    CQVMemoDC memory(&dc, client);
+    memory.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+}
+
+// The names outlive the window: the host asks for them when the dialog is gone.
+void CQVPsdOptionWnd::OnDestroy() {
+    if (m_cmbLayer.GetSafeHwnd() && !m_bCompileImport)
+        KeepChecks();
+    CWnd::OnDestroy();
+}
+
+void CQVPsdOptionWnd::ReadPsdFile(CString strPath) {
+    m_arrLayerName.RemoveAll();
+    if (!_qv_commonclass::CQVVideoPlay::GetPsdLayerInfo(strPath, m_arrLayerName) || !m_cmbLayer.GetSafeHwnd())
+        return;
+    m_cmbLayer.SendMessage(WM_CLEAR);
+    m_cmbLayer.SetRedraw(FALSE);
+    m_cmbLayer.ResetContent();
+    for (INT_PTR i = 0; i < m_arrLayerName.GetSize(); ++i) {
+        m_cmbLayer.InsertString(0, m_arrLayerName.GetAt(i));
+        m_cmbLayer.SetCheck(0, TRUE);
+    }
+    if (m_arrLayerName.GetSize() > 0)
+        m_cmbLayer.SetCurSel(0);
+    m_cmbLayer.SetRedraw(TRUE);
+    m_cmbLayer.Invalidate(FALSE);
+    KeepChecks();
+}
+
+void CQVPsdOptionWnd::KeepChecks() {
+    const int count = m_cmbLayer.GetCount();
+    m_vecLayerCheck.clear();
+    for (int i = 0; i < count; ++i)
+        m_vecLayerCheck.push_back(m_cmbLayer.GetCheck(i) ? 1 : 0);
+}
+
+void CQVPsdOptionWnd::EnableLayerInfo(BOOL bEnable) {
+    m_bEnableLayer = bEnable;
+    if (m_cmbLayer.GetSafeHwnd())
+        m_cmbLayer.EnableWindow(bEnable && IsLayerImportChosen());
+}
+
+void CQVPsdOptionWnd::EnableCompileImportType(BOOL bEnable) {
+    m_bEnableImportType = bEnable;
+    if (m_cmbImportType.GetSafeHwnd())
+        m_cmbImportType.EnableWindow(bEnable);
+}
+
+BOOL CQVPsdOptionWnd::IsCompileImportType() {
+    return m_bCompileImport;
+}
+
+void CQVPsdOptionWnd::GetImportLayerName(CStringArray& arr) {
+    arr.RemoveAll();
+    arr.Append(m_arrLayerName);
+}
+
+void CQVPsdOptionWnd::GetImportLayerInfo(std::vector<int>& v) {
+    for (auto check = m_vecLayerCheck.rbegin(); check != m_vecLayerCheck.rend(); ++check)
+        v.push_back(m_bCompileImport ? 1 : *check);
+}
+
+LRESULT CQVPsdOptionWnd::OnCloseUpMsg(WPARAM, LPARAM) {
+    KeepChecks();
+    return 0;
+}
+
+BOOL CQVPsdOptionWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) == kImportTypeComboId && HIWORD(wParam) == CBN_SELCHANGE)
+        OnImportTypeChanged();
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+void CQVPsdOptionWnd::OnImportTypeChanged() {
+    const bool byLayers = IsLayerImportChosen();
+    m_bCompileImport = !byLayers;
+    if (byLayers)
+        KeepChecks();
+    m_cmbLayer.EnableWindow(byLayers && m_bEnableLayer);
+}
+
+} // namespace _qv_commonwnd
