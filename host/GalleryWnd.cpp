@@ -1,0 +1,216 @@
+#include "GalleryWnd.h"
+
+#include "res/resource.h"
+
+using namespace _qv_commonctrl;
+
+namespace {
+
+// The column of buttons, pixels at 96 DPI.
+constexpr int kColumnLeftPx = 16;
+constexpr int kColumnTopPx = 12;
+constexpr int kColumnWidthPx = 226;
+constexpr int kTitleHeightPx = 18;
+constexpr int kButtonHeightPx = 24;
+constexpr int kButtonGapPx = 4;
+constexpr int kGroupGapPx = 12;
+constexpr int kNameColumnPx = 130;
+
+struct GroupTitle {
+    GalleryGroup group;
+    const wchar_t* key;
+};
+constexpr GroupTitle kGroups[] = {{GalleryGroup::Files, L"IDS_GALLERY_GROUP_FILES"},
+                                  {GalleryGroup::Folders, L"IDS_GALLERY_GROUP_FOLDERS"},
+                                  {GalleryGroup::Messages, L"IDS_GALLERY_GROUP_MESSAGES"},
+                                  {GalleryGroup::Values, L"IDS_GALLERY_GROUP_VALUES"},
+                                  {GalleryGroup::Meters, L"IDS_GALLERY_GROUP_METERS"}};
+
+struct Choice {
+    const wchar_t* value;
+    const wchar_t* text; // shown as it stands
+};
+constexpr Choice kLanguages[] = {{L"zh-CN", L"简体中文"}, {L"en-US", L"English"}};
+constexpr const wchar_t* kSkins[] = {L"dark", L"light"};
+constexpr const wchar_t* kSkinKeys[] = {L"IDS_GALLERY_SKIN_DARK", L"IDS_GALLERY_SKIN_LIGHT"};
+
+CString SkinFolder(LPCWSTR name) {
+    const CString current = QV_GetSkinPath();
+    const int cut = current.ReverseFind(L'\\');
+    return (cut < 0 ? current : current.Left(cut + 1)) + name;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CGalleryWnd, CQVDialog)
+    ON_COMMAND_RANGE(IDC_GALLERY_FIRST_ITEM, IDC_GALLERY_FIRST_ITEM + 99, OnItem)
+    ON_CBN_SELCHANGE(IDC_GALLERY_LANGUAGE, OnLanguage)
+    ON_CBN_SELCHANGE(IDC_GALLERY_SKIN, OnSkin)
+END_MESSAGE_MAP()
+
+CGalleryWnd::CGalleryWnd(const GalleryOptions& options)
+    : CQVDialog(IDD_GALLERY), m_options(options), m_log(options.log) {
+}
+
+CGalleryWnd::~CGalleryWnd() = default;
+
+CWnd* CGalleryWnd::MainWnd() {
+    return this;
+}
+
+CString CGalleryWnd::SampleFolder() {
+    return m_options.samples;
+}
+
+void CGalleryWnd::Report(LPCWSTR name, const CString& value) {
+    m_log.Write(name, value);
+    const HWND results = ::GetDlgItem(m_hWnd, IDC_GALLERY_RESULTS);
+    LVITEMW row = {};
+    row.mask = LVIF_TEXT;
+    row.iItem = static_cast<int>(::SendMessageW(results, LVM_GETITEMCOUNT, 0, 0));
+    row.pszText = const_cast<wchar_t*>(name);
+    row.iItem = static_cast<int>(::SendMessageW(results, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&row)));
+    row.iSubItem = 1;
+    row.pszText = const_cast<wchar_t*>(static_cast<LPCWSTR>(value));
+    ::SendMessageW(results, LVM_SETITEMTEXTW, static_cast<WPARAM>(row.iItem), reinterpret_cast<LPARAM>(&row));
+    ::SendMessageW(results, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row.iItem), FALSE);
+}
+
+BOOL CGalleryWnd::OnInitDialog() {
+    CreateItems();
+    CQVDialog::OnInitDialog();
+    FillChoices();
+    ShowTexts();
+    LogButtons();
+    return TRUE;
+}
+
+// Tells a program that watches the log which button stands for which entry: "id name".
+void CGalleryWnd::LogButtons() {
+    const auto& items = GalleryItems();
+    for (size_t i = 0; i < items.size(); ++i) {
+        CString line;
+        line.Format(L"%u %s", IDC_GALLERY_FIRST_ITEM + static_cast<UINT>(i), items[i].name);
+        m_log.Write(L"button", line);
+    }
+}
+
+void CGalleryWnd::OnSkinChange(UINT reason, HWND wnd) {
+    CQVDialog::OnSkinChange(reason, wnd);
+}
+
+void CGalleryWnd::OnOK() {
+}
+
+// The buttons are made before the base initialises, so that it skins them as it does the template's controls.
+void CGalleryWnd::CreateItems() {
+    const auto& items = GalleryItems();
+    auto px = [this](int value) { return QV_ScalePx(m_hWnd, value); };
+    int top = px(kColumnTopPx);
+    for (const auto& title : kGroups) {
+        bool any = false;
+        for (const auto& item : items)
+            any = any || item.group == title.group;
+        if (!any)
+            continue;
+        const UINT titleId = IDC_GALLERY_FIRST_GROUP + static_cast<UINT>(title.group);
+        CreateControl(L"STATIC", SS_LEFT | SS_CENTERIMAGE,
+                      CRect(CPoint(px(kColumnLeftPx), top), CSize(px(kColumnWidthPx), px(kTitleHeightPx))),
+                      titleId);
+        top += px(kTitleHeightPx + kButtonGapPx);
+        for (size_t i = 0; i < items.size(); ++i) {
+            if (items[i].group != title.group)
+                continue;
+            CreateControl(
+                L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP,
+                CRect(CPoint(px(kColumnLeftPx), top), CSize(px(kColumnWidthPx), px(kButtonHeightPx))),
+                IDC_GALLERY_FIRST_ITEM + static_cast<UINT>(i));
+            top += px(kButtonHeightPx + kButtonGapPx);
+        }
+        top += px(kGroupGapPx - kButtonGapPx);
+    }
+}
+
+void CGalleryWnd::CreateControl(const wchar_t* windowClass, DWORD style, const CRect& rect, UINT id) {
+    ::CreateWindowExW(0, windowClass, L"", WS_CHILD | WS_VISIBLE | style, rect.left, rect.top, rect.Width(),
+                      rect.Height(), m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
+                      AfxGetInstanceHandle(), nullptr);
+}
+
+void CGalleryWnd::FillChoices() {
+    const CString language = QV_GetLanguage();
+    for (const auto& choice : kLanguages) {
+        const LRESULT index =
+            SendDlgItemMessage(IDC_GALLERY_LANGUAGE, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.text));
+        if (language.CompareNoCase(choice.value) == 0)
+            SendDlgItemMessage(IDC_GALLERY_LANGUAGE, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    }
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT | LVCF_WIDTH;
+    column.pszText = const_cast<wchar_t*>(L"");
+    column.cx = QV_ScalePx(m_hWnd, kNameColumnPx);
+    SendDlgItemMessage(IDC_GALLERY_RESULTS, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+    CRect client;
+    ::GetClientRect(::GetDlgItem(m_hWnd, IDC_GALLERY_RESULTS), client);
+    column.cx = client.Width() - column.cx - ::GetSystemMetrics(SM_CXVSCROLL);
+    SendDlgItemMessage(IDC_GALLERY_RESULTS, LVM_INSERTCOLUMNW, 1, reinterpret_cast<LPARAM>(&column));
+    SendDlgItemMessage(IDC_GALLERY_RESULTS, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT,
+                       LVS_EX_FULLROWSELECT);
+}
+
+// All texts come from the dictionary, so a change of language shows at once.
+void CGalleryWnd::ShowTexts() {
+    SetWindowText(QV_LoadSysString(L"IDS_GALLERY_TITLE"));
+    SetDlgItemText(IDC_GALLERY_LANGUAGE_LABEL, QV_LoadSysString(L"IDS_GALLERY_LANGUAGE"));
+    SetDlgItemText(IDC_GALLERY_SKIN_LABEL, QV_LoadSysString(L"IDS_GALLERY_SKIN"));
+    SetDlgItemText(IDC_GALLERY_RESULTS_LABEL, QV_LoadSysString(L"IDS_GALLERY_RESULTS"));
+    for (const auto& title : kGroups)
+        SetDlgItemText(IDC_GALLERY_FIRST_GROUP + static_cast<int>(title.group), QV_LoadSysString(title.key));
+    const auto& items = GalleryItems();
+    for (size_t i = 0; i < items.size(); ++i)
+        SetDlgItemText(IDC_GALLERY_FIRST_ITEM + static_cast<int>(i), QV_LoadSysString(items[i].titleKey));
+
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT;
+    const CString heads[] = {QV_LoadSysString(L"IDS_GALLERY_COLUMN_WINDOW"),
+                             QV_LoadSysString(L"IDS_GALLERY_COLUMN_ANSWER")};
+    for (WPARAM i = 0; i < 2; ++i) {
+        column.pszText = const_cast<wchar_t*>(static_cast<LPCWSTR>(heads[i]));
+        SendDlgItemMessage(IDC_GALLERY_RESULTS, LVM_SETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    }
+    const CString current = QV_GetSkinPath();
+    SendDlgItemMessage(IDC_GALLERY_SKIN, CB_RESETCONTENT, 0, 0);
+    for (size_t i = 0; i < 2; ++i) {
+        const CString text = QV_LoadSysString(kSkinKeys[i]);
+        SendDlgItemMessage(IDC_GALLERY_SKIN, CB_ADDSTRING, 0,
+                           reinterpret_cast<LPARAM>(static_cast<LPCWSTR>(text)));
+        if (current.CompareNoCase(SkinFolder(kSkins[i])) == 0)
+            SendDlgItemMessage(IDC_GALLERY_SKIN, CB_SETCURSEL, i, 0);
+    }
+}
+
+void CGalleryWnd::OnItem(UINT id) {
+    const size_t index = id - IDC_GALLERY_FIRST_ITEM;
+    if (index < GalleryItems().size() && !m_bRunning)
+        RunItem(GalleryItems()[index]);
+}
+
+void CGalleryWnd::RunItem(const GalleryItem& item) {
+    m_bRunning = true;
+    m_log.Write(L"open", item.name);
+    item.run(*this);
+    m_log.Write(L"closed", item.name);
+    m_bRunning = false;
+}
+
+void CGalleryWnd::OnLanguage() {
+    const LRESULT index = SendDlgItemMessage(IDC_GALLERY_LANGUAGE, CB_GETCURSEL, 0, 0);
+    if (index >= 0 && QV_SetLanguage(kLanguages[index].value))
+        ShowTexts();
+}
+
+void CGalleryWnd::OnSkin() {
+    const LRESULT index = SendDlgItemMessage(IDC_GALLERY_SKIN, CB_GETCURSEL, 0, 0);
+    if (index >= 0)
+        QV_SetSkinPath(SkinFolder(kSkins[index]));
+}
