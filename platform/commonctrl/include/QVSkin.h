@@ -81,6 +81,7 @@ enum QVSkinPen : int {
 enum QVSkinBrush : int {
     QVBRUSH_WINDOW = 0, // ground of windows (colour 18)
     QVBRUSH_CHILD = 1,  // ground behind child controls of the file dialog and trees (colour 18 / 16)
+    QVBRUSH_LIST = 2,   // ground of lists and of the edit fields in them (colour 122)
 };
 
 // Text styles for SetTextStyle of statics and the tracker: which colour and font a text is drawn with.

@@ -1,0 +1,99 @@
+#include "QVListControls.h"
+
+#include "QVListRows.h"
+#include "QVMemoDC.h"
+#include "QVReplaceWnd.h"
+#include "QVRowPaint.h"
+
+namespace _qv_commonctrl {
+
+IMPLEMENT_DYNAMIC(CQVListCtrl, CListCtrl)
+
+CQVListCtrl::CQVListCtrl() = default;
+
+CQVListCtrl::~CQVListCtrl() = default;
+
+void CQVListCtrl::PreSubclassWindow() {
+    CListCtrl::PreSubclassWindow();
+    AttachSkin(this);
+    m_setup.Reset();
+    Invalidate(FALSE);
+}
+
+void CQVListCtrl::SetUp() {
+    ApplyColors();
+    TakeHeader();
+    QV_ReplaceWnd(m_hWnd);
+}
+
+void CQVListCtrl::ApplyColors() {
+    const COLORREF ground = QV_GetSysColor(QVCLR_LIST);
+    SetBkColor(ground);
+    SetTextBkColor(ground);
+    SetTextColor(QV_GetSysColor(QVCLR_TEXT_LIST));
+}
+
+// The control makes its header with the first column, or when it is switched to the report view.
+void CQVListCtrl::TakeHeader() {
+    if (m_header.m_hWnd)
+        return;
+    const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
+    if (header && !CWnd::FromHandlePermanent(header))
+        m_header.SubclassWindow(header);
+}
+
+void CQVListCtrl::OnSkinChange(UINT reason, HWND wnd) {
+    ApplyColors();
+    CQVBaseCtrl::OnSkinChange(reason, wnd);
+}
+
+BOOL CQVListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    const auto* notification = reinterpret_cast<NMHDR*>(lParam);
+    if (message == WM_NOTIFY && notification->code == static_cast<UINT>(NM_CUSTOMDRAW) && result) {
+        *result = PaintListItem(*reinterpret_cast<NMLVCUSTOMDRAW*>(lParam));
+        return TRUE;
+    }
+    return CListCtrl::OnChildNotify(message, wParam, lParam, result);
+}
+
+LRESULT CQVListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (m_setup.HasCome(message, false))
+        SetUp();
+    switch (message) {
+    case WM_ERASEBKGND:
+        return TRUE; // painted with the items
+    case WM_PAINT:
+        if (wParam == 0) {
+            CPaintDC paint(this);
+            CRect client;
+            GetClientRect(client);
+            CQVMemoDC dc(&paint, client);
+            dc.FillSolidRect(client, QV_GetSysColor(QVCLR_LIST));
+            return DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
+        }
+        break;
+    case WM_CTLCOLOREDIT:
+        return ColorLabelEdit(reinterpret_cast<HDC>(wParam));
+    }
+    const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
+    switch (message) {
+    case WM_CREATE:
+        if (m_setup.HasCome(message, true))
+            SetUp();
+        break;
+    case LVM_INSERTCOLUMNW:
+    case LVM_INSERTCOLUMNA:
+    case LVM_SETVIEW:
+    case WM_STYLECHANGED:
+        TakeHeader();
+        break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE: // the selection changes its colour
+        Invalidate(FALSE);
+        break;
+    }
+    return result;
+}
+
+} // namespace _qv_commonctrl

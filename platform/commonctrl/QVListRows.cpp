@@ -1,0 +1,204 @@
+#include "QVListRows.h"
+
+#include "QVPaintKit.h"
+#include "QVRowPaint.h"
+
+#include <vector>
+
+namespace _qv_commonctrl {
+
+namespace {
+
+constexpr int kMaxTextUnits = 1024;
+constexpr int kCellMarginPx = 6; // as the native control has it: twice its inner margin
+constexpr int kLabelMarginPx = 2;
+constexpr int kCheckBoxPx = 13;
+constexpr UINT kLineFormat = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX;
+
+// One item in work.
+class ItemPainter {
+  public:
+    ItemPainter(HWND list, CDC* dc, int item);
+    void Paint();
+
+  private:
+    CRect RectOf(int code) const;
+    void PaintGround(const CRect& selectedPart);
+    void PaintIcon();
+    void PaintCheckBox();
+    void PaintReportTexts();
+    void PaintLabel();
+    CString TextOf(int column) const;
+    DWORD View() const;
+    bool FullRow() const { return View() == LV_VIEW_DETAILS && (m_exStyle & LVS_EX_FULLROWSELECT); }
+
+    HWND m_list;
+    CDC* m_dc;
+    int m_item;
+    UINT m_state = 0;
+    int m_image = -1;
+    DWORD m_style;
+    DWORD m_exStyle;
+    UINT m_dpi;
+    HFONT m_font;
+    RowSelection m_selection;
+    RowColors m_colors;
+};
+
+ItemPainter::ItemPainter(HWND list, CDC* dc, int item)
+    : m_list(list), m_dc(dc), m_item(item), m_style(static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE))),
+      m_exStyle(static_cast<DWORD>(SendMessageW(list, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0))),
+      m_dpi(QV_GetWindowDpi(list)), m_font(WindowFontOf(list)) {
+    LVITEMW record = {};
+    record.mask = LVIF_STATE | LVIF_IMAGE;
+    record.iItem = item;
+    record.stateMask = ~0u;
+    if (SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&record))) {
+        m_state = record.state;
+        m_image = record.iImage;
+    }
+    const bool selected = m_state & (LVIS_SELECTED | LVIS_DROPHILITED);
+    m_selection = SelectionOf(list, selected, m_style & LVS_SHOWSELALWAYS);
+    m_colors = ColorsOfRow(list, m_selection, QVCLR_LIST, QVCLR_TEXT_LIST);
+}
+
+CRect ItemPainter::RectOf(int code) const {
+    CRect rect;
+    rect.left = code;
+    if (!SendMessageW(m_list, LVM_GETITEMRECT, static_cast<WPARAM>(m_item), reinterpret_cast<LPARAM>(&rect)))
+        rect.SetRectEmpty();
+    return rect;
+}
+
+DWORD ItemPainter::View() const {
+    const auto view = static_cast<DWORD>(SendMessageW(m_list, LVM_GETVIEW, 0, 0));
+    if (view != LV_VIEW_ICON)
+        return view;
+    switch (m_style & LVS_TYPEMASK) { // a control without the message answers 0, too
+    case LVS_REPORT:
+        return LV_VIEW_DETAILS;
+    case LVS_LIST:
+        return LV_VIEW_LIST;
+    case LVS_SMALLICON:
+        return LV_VIEW_SMALLICON;
+    default:
+        return LV_VIEW_ICON;
+    }
+}
+
+CString ItemPainter::TextOf(int column) const {
+    wchar_t text[kMaxTextUnits] = L"";
+    LVITEMW record = {};
+    record.iSubItem = column;
+    record.pszText = text;
+    record.cchTextMax = kMaxTextUnits;
+    SendMessageW(m_list, LVM_GETITEMTEXTW, static_cast<WPARAM>(m_item), reinterpret_cast<LPARAM>(&record));
+    return record.pszText; // an owner-data list may answer with a buffer of its own
+}
+
+void ItemPainter::PaintGround(const CRect& selectedPart) {
+    m_dc->FillSolidRect(selectedPart, m_colors.ground);
+    if ((m_state & LVIS_FOCUSED) && GetFocus() == m_list)
+        DrawRowFocus(m_dc, selectedPart);
+}
+
+void ItemPainter::PaintIcon() {
+    const bool large = View() == LV_VIEW_ICON;
+    const auto images = reinterpret_cast<HIMAGELIST>(
+        SendMessageW(m_list, LVM_GETIMAGELIST, large ? LVSIL_NORMAL : LVSIL_SMALL, 0));
+    int width = 0;
+    int height = 0;
+    if (!images || !ImageList_GetIconSize(images, &width, &height))
+        return;
+    const CRect room = RectOf(LVIR_ICON);
+    const CPoint place(large ? room.left + (room.Width() - width) / 2 : room.left,
+                       room.top + (room.Height() - height) / 2);
+    DrawRowIcon(m_dc, images, m_image, place, (m_state & LVIS_CUT) != 0, m_state & LVIS_OVERLAYMASK);
+}
+
+void ItemPainter::PaintCheckBox() {
+    const auto images = reinterpret_cast<HIMAGELIST>(SendMessageW(m_list, LVM_GETIMAGELIST, LVSIL_STATE, 0));
+    const UINT number = (m_state & LVIS_STATEIMAGEMASK) >> 12;
+    int width = 0;
+    int height = 0;
+    if (!images || number == 0 || !ImageList_GetIconSize(images, &width, &height))
+        return;
+    const CRect icon = RectOf(LVIR_ICON);
+    const CRect bounds = RectOf(LVIR_BOUNDS);
+    const CPoint place(icon.left - width, bounds.top + (bounds.Height() - height) / 2);
+    if (!(m_exStyle & LVS_EX_CHECKBOXES)) {
+        DrawRowIcon(m_dc, images, static_cast<int>(number) - 1, place, false, 0);
+        return;
+    }
+    const int side = QV_ScaleForDpi(kCheckBoxPx, m_dpi);
+    const CPoint corner(place.x + (width - side) / 2, bounds.top + (bounds.Height() - side) / 2);
+    DrawRowCheckBox(m_dc, CRect(corner, CSize(side, side)), number > 1, m_dpi);
+}
+
+void ItemPainter::PaintReportTexts() {
+    const auto header = reinterpret_cast<HWND>(SendMessageW(m_list, LVM_GETHEADER, 0, 0));
+    const int columns = header ? static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 1;
+    const COLORREF plain = ColorsOfRow(m_list, RowSelection::None, QVCLR_LIST, QVCLR_TEXT_LIST).text;
+    for (int column = 0; column < columns; ++column) {
+        CRect cell = RectOf(LVIR_LABEL);
+        if (column > 0) {
+            cell.top = column;
+            cell.left = LVIR_BOUNDS;
+            if (!SendMessageW(m_list, LVM_GETSUBITEMRECT, static_cast<WPARAM>(m_item),
+                              reinterpret_cast<LPARAM>(&cell)))
+                continue;
+        }
+        if (!m_dc->RectVisible(cell))
+            continue;
+        LVCOLUMNW record = {};
+        record.mask = LVCF_FMT;
+        SendMessageW(m_list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&record));
+        const int justify = record.fmt & LVCFMT_JUSTIFYMASK;
+        const UINT side = justify == LVCFMT_RIGHT ? DT_RIGHT : justify == LVCFMT_CENTER ? DT_CENTER : DT_LEFT;
+        cell.DeflateRect(QV_ScaleForDpi(column == 0 ? kLabelMarginPx : kCellMarginPx, m_dpi), 0);
+        DrawTextIn(m_dc, TextOf(column), cell, side | kLineFormat, m_font,
+                   column == 0 || FullRow() ? m_colors.text : plain);
+    }
+}
+
+void ItemPainter::PaintLabel() {
+    CRect label = RectOf(LVIR_LABEL);
+    label.DeflateRect(QV_ScaleForDpi(kLabelMarginPx, m_dpi), 0);
+    const bool wrapped = View() == LV_VIEW_ICON && !(m_style & LVS_NOLABELWRAP);
+    const UINT format = View() == LV_VIEW_ICON ? DT_CENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
+                                                     (wrapped ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE)
+                                               : DT_LEFT | kLineFormat;
+    DrawTextIn(m_dc, TextOf(0), label, format, m_font, m_colors.text);
+}
+
+void ItemPainter::Paint() {
+    const bool report = View() == LV_VIEW_DETAILS;
+    CRect ground = FullRow() ? RectOf(LVIR_BOUNDS) : RectOf(LVIR_LABEL);
+    if (FullRow())
+        ground.left = RectOf(LVIR_ICON).left;
+    PaintGround(ground);
+    PaintCheckBox();
+    PaintIcon();
+    if (report)
+        PaintReportTexts();
+    else
+        PaintLabel();
+}
+
+} // namespace
+
+LRESULT PaintListItem(NMLVCUSTOMDRAW& draw) {
+    switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+        ItemPainter(draw.nmcd.hdr.hwndFrom, CDC::FromHandle(draw.nmcd.hdc),
+                    static_cast<int>(draw.nmcd.dwItemSpec))
+            .Paint();
+        return CDRF_SKIPDEFAULT;
+    default:
+        return CDRF_DODEFAULT;
+    }
+}
+
+} // namespace _qv_commonctrl
