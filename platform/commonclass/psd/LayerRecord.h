@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LegacyDecoder.h"
+#include "NameList.h"
 #include "TaggedBlocks.h"
 #include <array>
 
@@ -14,7 +15,7 @@ enum class LayerKind { Layer, GroupMark };
 class LayerRecord {
   public:
     // Longer names are cut here; the program that owns the format allows 255.
-    static constexpr std::size_t kMaxNameUnits = 4096;
+    static constexpr std::size_t kMaxNameUnits = NameList::kMaxNameUnits;
     // What a record takes at the least: bounds, channel count, blend mode and lengths.
     static constexpr std::uint64_t kMinBytes = 34;
 

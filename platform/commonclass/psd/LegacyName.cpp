@@ -81,7 +81,9 @@ void decodeLegacyName(const LegacyDecoder& decoder, Bytes bytes, std::u16string&
         text.assign(bytes.begin(), bytes.end());
         return;
     }
-    if (decodeGuessed(decoder, bytes, text) || decodeGuessed(decoder, bytes.first(bytes.size() - 1), text))
+    if (decodeGuessed(decoder, bytes, text))
+        return;
+    if (bytes.size() > 1 && decodeGuessed(decoder, bytes.first(bytes.size() - 1), text))
         return;
     decoder.decodeLossy(bytes, text);
 }

@@ -2,40 +2,35 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 #include <vector>
 
 namespace _qv_commonclass::psd {
 
-// Names one behind the other in a single text: thousands of layers cost two allocations that grow, not one
-// each.
+// Names, stored one behind the other in blocks: thousands of layers cost few allocations, and text once stored is
+// never moved, so that even the longest list needs no second copy of itself while it grows.
 class NameList {
   public:
-    std::size_t size() const noexcept { return m_ends.size(); }
+    static constexpr std::size_t kBlockUnits = 32 * 1024;
+    // The longest name a list takes.
+    static constexpr std::size_t kMaxNameUnits = 4096;
+
+    std::size_t size() const noexcept { return m_names.size(); }
     // UTF-16 units of all names together.
-    std::size_t totalUnits() const noexcept { return m_text.size(); }
+    std::size_t totalUnits() const noexcept { return m_totalUnits; }
 
-    std::u16string_view operator[](std::size_t index) const noexcept {
-        const std::size_t begin = index == 0 ? 0 : m_ends[index - 1];
-        return std::u16string_view(m_text.data() + begin, m_ends[index] - begin);
-    }
+    // Valid as long as the list, or one it was moved to, lives.
+    std::u16string_view operator[](std::size_t index) const noexcept { return m_names[index]; }
 
-    void append(std::u16string_view name) {
-        growFor(name.size());
-        m_text.insert(m_text.end(), name.begin(), name.end());
-        m_ends.push_back(static_cast<std::uint32_t>(m_text.size()));
-    }
+    // name: at most kMaxNameUnits; what is more is left out.
+    void append(std::u16string_view name);
 
   private:
-    // By half, not by doubling: the text of a made-up document can be long.
-    void growFor(std::size_t units) {
-        const std::size_t needed = m_text.size() + units;
-        if (needed > m_text.capacity())
-            m_text.reserve(needed + needed / 2);
-    }
-
-    std::vector<char16_t> m_text;
-    std::vector<std::uint32_t> m_ends;
+    std::vector<std::unique_ptr<char16_t[]>> m_blocks;
+    std::vector<std::u16string_view> m_names;
+    std::size_t m_usedUnits = kBlockUnits; // of the last block
+    std::size_t m_totalUnits = 0;
 };
 
 } // namespace _qv_commonclass::psd

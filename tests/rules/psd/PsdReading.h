@@ -1,0 +1,56 @@
+#pragma once
+
+#include "builder/MemorySource.h"
+#include "builder/PsdBuilder.h"
+#include "builder/TableDecoder.h"
+#include "psd/LayerNames.h"
+#include <ostream>
+
+// What the tables of this folder compare.
+namespace psdtest {
+
+using _qv_commonclass::psd::NameList;
+using _qv_commonclass::psd::ReadResult;
+using Names = std::vector<std::u16string>;
+
+struct Reading {
+    ReadResult result = ReadResult::Unreadable;
+    Names names;
+    std::uint64_t bytesRead = 0;
+    std::uint64_t reads = 0;
+};
+
+inline Reading readFrom(_qv_commonclass::psd::ByteSource& source) {
+    Reading reading;
+    NameList list;
+    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), list);
+    for (std::size_t i = 0; i < list.size(); ++i)
+        reading.names.emplace_back(list[i]);
+    return reading;
+}
+
+inline Reading readBytes(const Bytes& bytes) {
+    MemorySource source(bytes);
+    Reading reading = readFrom(source);
+    reading.bytesRead = source.bytesRead;
+    reading.reads = source.reads;
+    return reading;
+}
+
+inline Reading readDocument(const Document& document) {
+    return readBytes(build(document).bytes);
+}
+
+// A document that has one of everything: groups in groups, masks, blocks before and after the name.
+Document everything();
+
+} // namespace psdtest
+
+namespace _qv_commonclass::psd {
+
+inline std::ostream& operator<<(std::ostream& out, ReadResult result) {
+    constexpr const char* names[] = {"Done", "NotPhotoshop", "Damaged", "TooLarge", "Unreadable"};
+    return out << names[static_cast<int>(result)];
+}
+
+} // namespace _qv_commonclass::psd
