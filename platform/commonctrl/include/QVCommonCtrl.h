@@ -2,6 +2,7 @@
 #pragma once
 
 #include "QVSkin.h"
+#include "QVTimecodeFrameRate.h"
 #include "QVDict.h"
 #include "QVMemoDC.h"
 #include "QVBaseCtrl.h"

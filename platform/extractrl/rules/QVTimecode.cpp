@@ -215,8 +215,9 @@ long long QV_StepTimecode(long long nFrame, const TimecodeFrameRate& rate, QVTim
     const long long perSecond = count.nLabelsPerSecond;
     const long long labelStep = static_cast<long long>(SecondsOf(eField)) * perSecond * nSteps;
     QVTimecodeLabel label = QV_FrameToLabel(nFrame, rate);
-    // So far from zero the sums below would not fit, and a skipped label more or less is not seen.
-    if (label.nDays > kMostSteppedDays)
+    // Without skipped labels a step is a fixed number of frames. So far from zero that the sums below would not
+    // fit, nobody sees a skipped label more or less.
+    if (count.nDroppedPerMinute == 0 || label.nDays > kMostSteppedDays)
         return AddFrames(nFrame, labelStep * count.nFramesPerLabel);
 
     const long long minute = (label.nDays * kHoursPerDay + label.nHours) * kMinutesPerHour + label.nMinutes;

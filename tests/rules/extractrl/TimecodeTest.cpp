@@ -185,4 +185,47 @@ TEST(TimecodeLabel, CorrectsLabelsThatDoNotExist) {
     }
 }
 
+struct StepRow {
+    const char* name;
+    TimecodeFrameRate rate;
+    long long frame;
+    QVTimecodeField field;
+    int steps;
+    long long stepped;
+};
+
+const StepRow kSteps[] = {
+    {"frame", {25.0}, 49, QVTimecodeField::Frames, 1, 50},
+    {"second", {25.0}, 49, QVTimecodeField::Seconds, 1, 74},
+    {"minute", {25.0}, 0, QVTimecodeField::Minutes, 10, 15000},
+    {"hour", {25.0}, 0, QVTimecodeField::Hours, -1, -90000},
+    {"through zero", {25.0}, 10, QVTimecodeField::Seconds, -1, -15},
+    {"back through zero", {25.0}, -15, QVTimecodeField::Seconds, 1, 10},
+    {"through midnight", {25.0}, 2159999, QVTimecodeField::Seconds, 1, 2160024},
+    {"onto a skipped label", {29.97, 1}, 1770, QVTimecodeField::Seconds, 1, 1800},
+    {"drop-frame minute", {29.97, 1}, 1800, QVTimecodeField::Minutes, 1, 3598},
+    {"drop-frame ten minutes", {29.97, 1}, 0, QVTimecodeField::Minutes, 10, 17982},
+    {"pairs", {50.0, 0, 2}, 51, QVTimecodeField::Seconds, 1, 101},
+    {"pairs count frames one by one", {50.0, 0, 2}, 51, QVTimecodeField::Frames, 1, 52},
+    {"upper end", {25.0}, LLONG_MAX, QVTimecodeField::Frames, 5, LLONG_MAX},
+    {"lower end", {25.0}, LLONG_MIN, QVTimecodeField::Hours, -1, LLONG_MIN},
+    {"most steps", {25.0}, 0, QVTimecodeField::Hours, INT_MAX, 90000LL * INT_MAX},
+};
+
+TEST(TimecodeStep, ChangesAField) {
+    for (const StepRow& row : kSteps)
+        EXPECT_EQ(QV_StepTimecode(row.frame, row.rate, row.field, row.steps), row.stepped) << row.name;
+}
+
+TEST(TimecodeStep, OneUpAndOneDownComeBackWhereNoLabelIsSkipped) {
+    for (const RateRow& row : kRates) {
+        // Through zero a drop-frame label may meet one that is skipped.
+        const long long first = row.droppedPerMinute == 0 ? -200000 : 0;
+        for (long long frame = first; frame < 200000; frame += 37) {
+            const long long up = QV_StepTimecode(frame, row.rate, QVTimecodeField::Hours, 1);
+            ASSERT_EQ(QV_StepTimecode(up, row.rate, QVTimecodeField::Hours, -1), frame) << row.name;
+        }
+    }
+}
+
 } // namespace
