@@ -1,44 +1,12 @@
 #include "QVImageCodec.h"
 
-#include <windows.h>
-#include <objbase.h>
+#include "QVComScope.h"
+
 #include <wincodec.h>
 
 namespace _qv_commonctrl {
 
 namespace {
-
-// COM for the length of a scope. On a thread that has it in another form that form serves as well.
-class ComScope {
-  public:
-    ComScope() : m_result(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-    ~ComScope() {
-        if (SUCCEEDED(m_result))
-            CoUninitialize();
-    }
-    ComScope(const ComScope&) = delete;
-    ComScope& operator=(const ComScope&) = delete;
-
-  private:
-    HRESULT m_result;
-};
-
-template <class Interface> class ComPtr {
-  public:
-    ComPtr() = default;
-    ~ComPtr() {
-        if (m_object)
-            m_object->Release();
-    }
-    ComPtr(const ComPtr&) = delete;
-    ComPtr& operator=(const ComPtr&) = delete;
-    Interface** operator&() { return &m_object; }
-    Interface* operator->() const { return m_object; }
-    Interface* Get() const { return m_object; }
-
-  private:
-    Interface* m_object = nullptr;
-};
 
 Pixels ReadPixels(IWICImagingFactory* factory, IWICBitmapDecoder* decoder) {
     ComPtr<IWICBitmapFrameDecode> frame;

@@ -1,0 +1,86 @@
+#include "QVDirTreeImpl.h"
+
+namespace _qv_commonctrl {
+
+IMPLEMENT_DYNAMIC(CQVDirTreeCtrl, CQVTreeCtrl)
+
+CQVDirTreeCtrl::CQVDirTreeCtrl() : m_pImpl(new CQVDirTreeImpl(*this)) {
+}
+
+CQVDirTreeCtrl::~CQVDirTreeCtrl() {
+    delete m_pImpl;
+}
+
+void CQVDirTreeCtrl::SetTreeCtrl(int kind) {
+    m_pImpl->SetContent(kind == static_cast<int>(FolderContent::FoldersAndFiles)
+                            ? FolderContent::FoldersAndFiles
+                            : FolderContent::FoldersOnly);
+}
+
+BOOL CQVDirTreeCtrl::SetDesktopFolder() {
+    try {
+        return m_hWnd && m_pImpl->SetDesktop();
+    } catch (const std::exception&) { // memory ran out
+        return FALSE;
+    }
+}
+
+BOOL CQVDirTreeCtrl::SetPathName(LPCWSTR path) {
+    try {
+        return m_hWnd && path && *path && m_pImpl->Select(path);
+    } catch (const std::exception&) {
+        return FALSE;
+    }
+}
+
+CString CQVDirTreeCtrl::GetPathName() const {
+    const HTREEITEM selected = m_hWnd ? GetSelectedItem() : nullptr;
+    return selected ? m_pImpl->PathOf(selected).c_str() : L"";
+}
+
+void CQVDirTreeCtrl::OnSkinChange(UINT reason, HWND wnd) {
+    m_pImpl->RefreshIcons();
+    CQVTreeCtrl::OnSkinChange(reason, wnd);
+}
+
+BOOL CQVDirTreeCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    if (message != WM_NOTIFY || !result)
+        return CQVTreeCtrl::OnChildNotify(message, wParam, lParam, result);
+    auto* const notification = reinterpret_cast<NMTREEVIEWW*>(lParam);
+    switch (notification->hdr.code) {
+    case TVN_ITEMEXPANDINGW:
+        if (notification->action & TVE_EXPAND) {
+            *result = m_pImpl->OnExpanding(notification->itemNew.hItem);
+            return *result != 0; // the parent hears of it when there is something to expand
+        }
+        break;
+    case TVN_ITEMEXPANDEDW:
+        m_pImpl->OnExpanded(notification->itemNew.hItem, (notification->action & TVE_EXPAND) != 0);
+        break;
+    case TVN_DELETEITEMW:
+        m_pImpl->OnItemDeleted(notification->itemOld.hItem);
+        break;
+    }
+    return CQVTreeCtrl::OnChildNotify(message, wParam, lParam, result);
+}
+
+LRESULT CQVDirTreeCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == CQVDirTreeImpl::ListedMessage()) {
+        m_pImpl->OnListed(static_cast<UINT>(wParam));
+        return 0;
+    }
+    if (message == WM_KEYDOWN && wParam == VK_F5) {
+        m_pImpl->ListAgain(GetSelectedItem());
+        return 0;
+    }
+    if (message == WM_SETCURSOR && LOWORD(lParam) == HTCLIENT && m_pImpl->IsListing()) {
+        ::SetCursor(::LoadCursorW(nullptr, IDC_APPSTARTING));
+        return TRUE;
+    }
+    const LRESULT result = CQVTreeCtrl::WindowProc(message, wParam, lParam);
+    if (message == WM_NCDESTROY)
+        m_pImpl->OnWindowGone();
+    return result;
+}
+
+} // namespace _qv_commonctrl

@@ -1,0 +1,61 @@
+// QVFolderEntries.h: what a folder holds, listed from the file system and the shell's name space. Called on worker
+// threads; nothing here knows a window.
+#pragma once
+
+#include <windows.h>
+#include <shlobj.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace _qv_commonctrl {
+
+struct PidlFree {
+    using pointer = PIDLIST_ABSOLUTE;
+    void operator()(PIDLIST_ABSOLUTE pidl) const { CoTaskMemFree(pidl); }
+};
+using Pidl = std::unique_ptr<ITEMIDLIST_ABSOLUTE, PidlFree>;
+
+enum class FolderKind {
+    Desktop,  // the root of the name space
+    Computer, // holds the drives
+    Virtual,  // known to the shell only
+    Path,     // a folder of the file system
+    File,     // no folder at all
+};
+
+enum class FolderIcon { Folder, FolderOpen, File, Drive, Computer, Desktop, Network, User };
+
+struct FolderEntry {
+    std::wstring name; // as shown
+    std::wstring path; // empty: virtual, or the parent's path and the name
+    Pidl pidl;         // virtual folders only
+    FolderKind kind = FolderKind::Path;
+    FolderIcon icon = FolderIcon::Folder;
+    uint64_t size = 0; // bytes; files only
+    FILETIME modified = {};
+};
+
+enum class FolderContent { FoldersAndFiles = 0, FoldersOnly = 1 };
+
+// Which folder to list.
+struct FolderRequest {
+    FolderKind kind = FolderKind::Desktop;
+    std::wstring path; // of a Path
+    Pidl pidl;         // of a Virtual
+    FolderContent content = FolderContent::FoldersOnly;
+};
+
+// The entries of a folder: folders before files, each in the user's sorting order with numbers by value. Hidden
+// entries are left out. FALSE when the folder cannot be listed.
+bool ListFolder(const FolderRequest& request, std::vector<FolderEntry>& entries);
+
+// The whole path of a name below a folder (a drive root ends with a back-slash already).
+std::wstring JoinPath(const std::wstring& folder, const std::wstring& name);
+
+// A path as the controls give it out: back-slashes, none at the end except for a drive root.
+std::wstring NormalFolderPath(const std::wstring& path);
+
+} // namespace _qv_commonctrl

@@ -1,0 +1,12 @@
+// QVFolderHook.h: the host's own listing of folders, when it has set one.
+#pragma once
+
+#include "QVFolderEntries.h"
+
+namespace _qv_commonctrl {
+
+// Asks the host. `answered` is FALSE when there is no lister or it leaves the folder to the system.
+bool AskFolderLister(const std::wstring& folder, FolderContent content, std::vector<FolderEntry>& entries,
+                     bool& answered);
+
+} // namespace _qv_commonctrl
