@@ -45,6 +45,10 @@ bool SystemLegacyDecoder::decode(psd::LegacyCodePage codePage, std::span<const s
            std::none_of(text.begin(), text.end(), isFiller);
 }
 
+bool SystemLegacyDecoder::isSystem(psd::LegacyCodePage codePage) const {
+    return codePage == psd::LegacyCodePage::System || GetACP() == systemNumber(codePage);
+}
+
 void SystemLegacyDecoder::decodeLossy(std::span<const std::uint8_t> bytes, std::u16string& text) const {
     if (convert(CP_ACP, 0, bytes, text))
         return;

@@ -9,6 +9,7 @@ class SystemLegacyDecoder final : public psd::LegacyDecoder {
   public:
     bool decode(psd::LegacyCodePage codePage, std::span<const std::uint8_t> bytes,
                 std::u16string& text) const override;
+    bool isSystem(psd::LegacyCodePage codePage) const override;
     void decodeLossy(std::span<const std::uint8_t> bytes, std::u16string& text) const override;
 };
 

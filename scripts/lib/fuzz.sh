@@ -20,7 +20,7 @@ fuzz_one() {
     log=$FUZZ_BUILD/$name.log
     mkdir -p "$corpus" "$FUZZ_BUILD/findings"
     [[ -d $seeds ]] || seeds=
-    if "$program" -max_total_time="$seconds" -timeout=5 -rss_limit_mb=1024 -print_final_stats=1 \
+    if "$program" -max_total_time="$seconds" -timeout=5 -rss_limit_mb=1024 -malloc_limit_mb=32 -print_final_stats=1 \
         -artifact_prefix="$FUZZ_BUILD/findings/$name-" "$corpus" ${seeds:+"$seeds"} >"$log" 2>&1; then
         printf '%s: %s runs, no finding\n' "$name" "$(awk '/number_of_executed_units/ { print $2 }' "$log")"
     else

@@ -18,6 +18,9 @@ class LegacyDecoder {
     virtual bool decode(LegacyCodePage codePage, std::span<const std::uint8_t> bytes,
                         std::u16string& text) const = 0;
 
+    // Whether the system's code page is that one.
+    virtual bool isSystem(LegacyCodePage codePage) const = 0;
+
     // The system code page with a replacement character for what is not valid in it.
     virtual void decodeLossy(std::span<const std::uint8_t> bytes, std::u16string& text) const = 0;
 };

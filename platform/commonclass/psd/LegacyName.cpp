@@ -23,18 +23,26 @@ int gbkPairScore(std::uint8_t lead, std::uint8_t trail) noexcept {
     return within(lead, 0xD8, 0xF7) || within(lead, 0xA1, 0xA3) ? kRareCharacter : kUnlikelyCharacter;
 }
 
+bool isKanaPair(std::uint8_t lead, std::uint8_t trail) noexcept {
+    return (lead == 0x82 && within(trail, 0x9F, 0xF1)) || (lead == 0x83 && within(trail, 0x40, 0x96));
+}
+
 int shiftJisPairScore(std::uint8_t lead, std::uint8_t trail) noexcept {
-    if ((lead == 0x82 && within(trail, 0x9F, 0xF1)) || (lead == 0x83 && within(trail, 0x40, 0x96)))
-        return kCommonCharacter; // kana
+    if (isKanaPair(lead, trail))
+        return kCommonCharacter;
     if (within(lead, 0x88, 0x97) || lead == 0x81 || lead == 0x82)
         return kCommonCharacter - 1; // first level of kanji, punctuation, full-width letters
     return within(lead, 0x98, 0x9F) || within(lead, 0xE0, 0xEA) ? kRareCharacter : kUnlikelyCharacter;
 }
 
 bool decodeGuessed(const LegacyDecoder& decoder, Bytes bytes, std::u16string& text) {
-    if (decoder.decode(LegacyCodePage::System, bytes, text))
-        return true;
     std::u16string japanese;
+    if (decoder.decode(LegacyCodePage::System, bytes, text)) {
+        if (decoder.isSystem(LegacyCodePage::Gbk) && readsAsKana(bytes) &&
+            decoder.decode(LegacyCodePage::ShiftJis, bytes, japanese))
+            text.swap(japanese);
+        return true;
+    }
     const bool isShiftJis = decoder.decode(LegacyCodePage::ShiftJis, bytes, japanese);
     const bool isGbk = decoder.decode(LegacyCodePage::Gbk, bytes, text);
     if (isShiftJis && (!isGbk || shiftJisPlausibility(bytes) > gbkPlausibility(bytes)))
@@ -72,6 +80,21 @@ int shiftJisPlausibility(Bytes bytes) noexcept {
         ++i;
     }
     return score;
+}
+
+bool readsAsKana(Bytes bytes) noexcept {
+    constexpr int enoughKana = 2;
+    int kana = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] < 0x80)
+            continue;
+        if (i + 1 == bytes.size() || within(bytes[i], 0xA1, 0xDF) ||
+            shiftJisPairScore(bytes[i], bytes[i + 1]) < kCommonCharacter - 1)
+            return false;
+        kana += isKanaPair(bytes[i], bytes[i + 1]) ? 1 : 0;
+        ++i;
+    }
+    return kana >= enoughKana && gbkPlausibility(bytes) < 0;
 }
 
 void decodeLegacyName(const LegacyDecoder& decoder, Bytes bytes, std::u16string& text) {

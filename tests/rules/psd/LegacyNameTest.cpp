@@ -34,6 +34,35 @@ TEST(LegacyName, SystemCodePageComesFirst) {
     EXPECT_EQ(decode(decoder, kGbkText), u"system");
 }
 
+TEST(LegacyName, KanaOnAChineseSystem) {
+    TableDecoder decoder;
+    for (const std::string& text : {kGbkText, kShiftJisText}) {
+        decoder.valid(LegacyCodePage::System, text, u"system");
+        decoder.valid(LegacyCodePage::ShiftJis, text, u"japanese");
+    }
+    EXPECT_EQ(decode(decoder, kShiftJisText), u"system");
+    decoder.system = LegacyCodePage::Gbk;
+    EXPECT_EQ(decode(decoder, kShiftJisText), u"japanese");
+    EXPECT_EQ(decode(decoder, kGbkText), u"system");
+    decoder.system = LegacyCodePage::ShiftJis;
+    EXPECT_EQ(decode(decoder, kShiftJisText), u"system");
+}
+
+TEST(LegacyName, WhatReadsAsKana) {
+    const auto reads = [](const std::string& bytes) {
+        return _qv_commonclass::psd::readsAsKana(bytesOf(bytes));
+    };
+    EXPECT_TRUE(reads(kShiftJisText));
+    EXPECT_TRUE(reads("\x83\x8C\x83\x43\x83\x84\x81\x5B\x95\x5C\x8E\xA6")); // with kanji
+    EXPECT_TRUE(reads("BGM \x82\xD0\x82\xE7"));
+    EXPECT_FALSE(reads("\x83\x5C"));         // one alone may be a rare Chinese character
+    EXPECT_FALSE(reads("\x83\x5C\x83"));     // cut
+    EXPECT_FALSE(reads("\xDA\xB2\xD4\xB0")); // half-width katakana, or Chinese
+    EXPECT_FALSE(reads(kGbkText));
+    EXPECT_FALSE(reads("Layer"));
+    EXPECT_FALSE(reads(""));
+}
+
 TEST(LegacyName, TheOnlyValidGuessIsTaken) {
     TableDecoder gbk;
     gbk.valid(LegacyCodePage::Gbk, kShiftJisText, u"gbk");

@@ -1,4 +1,5 @@
 #include <QVCommonClass.h>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -63,5 +64,31 @@ TEST_P(PsdFixture, GivesItsNames) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, PsdFixture, testing::ValuesIn(kFixtures));
+
+struct LegacyFixture {
+    const wchar_t* file;
+    std::vector<UINT> codePages; // systems on which the bytes mean what was written
+    Names expected;
+};
+
+// On other systems the same bytes are valid letters, and the rule is that the system's meaning goes first: there
+// the names are only counted.
+TEST(PsdLegacyFixture, GivesItsNames) {
+    const LegacyFixture table[] = {
+        {L"imagemagick-gbk.psd", {936}, {L"\u80CC\u666F\u56FE\u5C42", L"\u6807\u9898", L"Logo \u5B57\u5E55"}},
+        {L"imagemagick-shift-jis.psd",
+         {932, 936},
+         {L"\u30BF\u30A4\u30C8\u30EB", L"\u30EC\u30A4\u30E4\u30FC\u8868\u793A", L"\u30BD\u30FC\u30B9"}},
+    };
+    for (const LegacyFixture& fixture : table) {
+        CStringArray names;
+        const std::wstring path = std::wstring(QV_PSD_FIXTURES) + fixture.file;
+        ASSERT_TRUE(_qv_commonclass::CQVVideoPlay::GetPsdLayerInfo(path.c_str(), names));
+        ASSERT_EQ(names.GetSize(), static_cast<INT_PTR>(fixture.expected.size()));
+        const bool isKnown = std::find(fixture.codePages.begin(), fixture.codePages.end(), GetACP()) !=
+                             fixture.codePages.end();
+        EXPECT_TRUE(!isKnown || namesOf(names) == fixture.expected) << "code page " << GetACP();
+    }
+}
 
 } // namespace

@@ -49,15 +49,18 @@ TEST(SystemLegacyDecoder, LossyGivesSomethingForAnything) {
     }
 }
 
-// The system's own code page decides what a name means before any guess; every system has one of these
-// answers.
-TEST(SystemLegacyDecoder, GuessesOnlyBehindTheSystemCodePage) {
+// The system's own code page decides what a name means before any guess, but for kana on a Chinese system.
+TEST(SystemLegacyDecoder, GuessesBehindTheSystemCodePage) {
+    constexpr UINT chinese = 936;
     const std::string japanese = "\x83\x5E\x83\x43\x83\x67\x83\x8B";
+    const SystemLegacyDecoder decoder;
     std::u16string bySystem;
     std::u16string text;
-    const bool isValid = SystemLegacyDecoder().decode(LegacyCodePage::System, bytesOf(japanese), bySystem);
-    _qv_commonclass::psd::decodeLegacyName(SystemLegacyDecoder(), bytesOf(japanese), text);
-    EXPECT_EQ(text, isValid ? bySystem : u"\u30BF\u30A4\u30C8\u30EB") << "code page " << GetACP();
+    const bool isValid = decoder.decode(LegacyCodePage::System, bytesOf(japanese), bySystem);
+    EXPECT_EQ(decoder.isSystem(LegacyCodePage::Gbk), GetACP() == chinese);
+    _qv_commonclass::psd::decodeLegacyName(decoder, bytesOf(japanese), text);
+    EXPECT_EQ(text, isValid && GetACP() != chinese ? bySystem : u"\u30BF\u30A4\u30C8\u30EB")
+        << "code page " << GetACP();
 }
 
 } // namespace

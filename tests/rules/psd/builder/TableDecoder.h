@@ -10,6 +10,8 @@ class TableDecoder final : public _qv_commonclass::psd::LegacyDecoder {
   public:
     using CodePage = _qv_commonclass::psd::LegacyCodePage;
 
+    CodePage system = CodePage::System; // none of the others
+
     void valid(CodePage codePage, std::string bytes, std::u16string text) {
         m_table[{codePage, std::move(bytes)}] = std::move(text);
     }
@@ -23,6 +25,8 @@ class TableDecoder final : public _qv_commonclass::psd::LegacyDecoder {
         text = found->second;
         return true;
     }
+
+    bool isSystem(CodePage codePage) const override { return codePage == system; }
 
     void decodeLossy(std::span<const std::uint8_t> bytes, std::u16string& text) const override {
         text.assign(bytes.size(), u'?');
