@@ -21,8 +21,9 @@ class QVCOMMONCTRL_API CQVButton : public CButton, public CQVBaseCtrl {
     // the image cannot be loaded. The path is read again when the skin changes.
     BOOL SetImageList(LPCWSTR path, int states);
 
-    // Check state of a push button (0 or 1): drawn as a latched button. For check boxes and radio buttons
-    // these are BM_SETCHECK and BM_GETCHECK.
+    // Check state of a push button (0 or 1): drawn as a latched button; a click does not change it. For check
+    // boxes and radio buttons these are BM_SETCHECK and BM_GETCHECK, and those messages serve push buttons,
+    // too.
     void SetCheck(int check);
     int GetCheck() const;
 
@@ -37,6 +38,10 @@ class QVCOMMONCTRL_API CQVButton : public CButton, public CQVBaseCtrl {
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
+    BOOL HandleCheckOfPushButton(UINT message, WPARAM wParam, LRESULT& result);
+    void OnSkinPaint(WPARAM wParam);
+    void AfterChange(UINT message, WPARAM wParam);
+
     class CQVButtonImpl* m_pImpl;
 };
 

@@ -27,6 +27,9 @@ class QVCOMMONCTRL_API CQVStatic : public CStatic, public CQVBaseCtrl {
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
+    void Paint(CDC* dc, const CRect& client) const;
+    void PaintText(CDC* dc, const CRect& client) const;
+
     int m_nTextStyle = QVTEXT_LABEL;
     int m_nBkColorIndex = -1;
     int m_nTextColorIndex = -1;

@@ -1,0 +1,146 @@
+#include "QVButton.h"
+
+#include "QVButtonImpl.h"
+
+namespace _qv_commonctrl {
+
+IMPLEMENT_DYNAMIC(CQVButton, CButton)
+
+namespace {
+
+// Messages at which the system's button draws at once. None of them tells the parent anything.
+bool DrawsAtOnce(UINT message) {
+    switch (message) {
+    case BM_SETSTATE:
+    case BM_SETCHECK:
+    case BM_SETSTYLE:
+    case BM_SETIMAGE:
+    case WM_SETTEXT:
+    case WM_SETFONT:
+    case WM_ENABLE:
+    case WM_UPDATEUISTATE:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+CQVButton::CQVButton() : m_pImpl(new CQVButtonImpl(*this)) {
+}
+
+CQVButton::~CQVButton() {
+    if (m_hWnd)
+        DestroyWindow();
+    delete m_pImpl;
+}
+
+void CQVButton::PreSubclassWindow() {
+    CButton::PreSubclassWindow();
+    AttachSkin(this);
+    NoteSkinFont(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+}
+
+BOOL CQVButton::SetImageList(LPCWSTR path, int states) {
+    const bool loaded = m_pImpl->image.Load(path, states, QV_GetWindowDpi(m_hWnd));
+    if (!loaded)
+        m_pImpl->image.Clear();
+    m_pImpl->ApplyAutoSize();
+    Invalidate(FALSE);
+    return loaded;
+}
+
+void CQVButton::SetCheck(int check) {
+    SendMessage(BM_SETCHECK, static_cast<WPARAM>(check));
+}
+
+int CQVButton::GetCheck() const {
+    return static_cast<int>(SendMessage(BM_GETCHECK));
+}
+
+void CQVButton::SetAutoSize(BOOL enable) {
+    m_pImpl->autoSize = enable != FALSE;
+    m_pImpl->ApplyAutoSize();
+}
+
+void CQVButton::OnSkinChange(UINT reason, HWND wnd) {
+    m_pImpl->image.Reload(QV_GetWindowDpi(m_hWnd));
+    CQVBaseCtrl::OnSkinChange(reason, wnd);
+    m_pImpl->ApplyAutoSize();
+}
+
+BOOL CQVButton::HandleCheckOfPushButton(UINT message, WPARAM wParam, LRESULT& result) {
+    const DWORD type = GetStyle() & BS_TYPEMASK;
+    if (type != BS_PUSHBUTTON && type != BS_DEFPUSHBUTTON)
+        return FALSE;
+    if (message == BM_SETCHECK) {
+        const int check = wParam != BST_UNCHECKED;
+        if (check != m_pImpl->pushCheck) {
+            m_pImpl->pushCheck = check;
+            Invalidate(FALSE);
+        }
+        result = 0;
+        return TRUE;
+    }
+    result = m_pImpl->pushCheck;
+    return message == BM_GETCHECK;
+}
+
+LRESULT CQVButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    using Kind = CQVButtonImpl::Kind;
+    LRESULT result = 0;
+    if ((message == BM_SETCHECK || message == BM_GETCHECK) &&
+        HandleCheckOfPushButton(message, wParam, result))
+        return result;
+    if (!m_hWnd || m_pImpl->GetKind() == Kind::Native)
+        return CButton::WindowProc(message, wParam, lParam);
+    if (m_pImpl->hot.Follow(m_hWnd, message))
+        Invalidate(FALSE);
+    switch (message) {
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+        OnSkinPaint(wParam);
+        return 0;
+    default:
+        break;
+    }
+    if (DrawsAtOnce(message)) {
+        {
+            RedrawPause pause(m_hWnd);
+            result = CButton::WindowProc(message, wParam, lParam);
+        }
+        AfterChange(message, wParam);
+        return result;
+    }
+    result = CButton::WindowProc(message, wParam, lParam);
+    if (m_hWnd && (message == WM_SETFOCUS || message == WM_KILLFOCUS))
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    return result;
+}
+
+void CQVButton::OnSkinPaint(WPARAM wParam) {
+    if (m_pImpl->GetKind() != CQVButtonImpl::Kind::Group || wParam) {
+        PaintBuffered(m_hWnd, wParam, [this](CDC* dc, const CRect& client) { m_pImpl->Paint(dc, client); });
+        return;
+    }
+    CRect client;
+    GetClientRect(client);
+    CPaintDC target(this);
+    m_pImpl->ExcludeSiblings(&target);
+    CQVMemoDC picture(&target, client);
+    m_pImpl->Paint(&picture, client);
+}
+
+void CQVButton::AfterChange(UINT message, WPARAM wParam) {
+    if (message == WM_SETFONT)
+        NoteSkinFont(reinterpret_cast<HFONT>(wParam));
+    if (message == WM_SETFONT || message == WM_SETTEXT)
+        m_pImpl->ApplyAutoSize();
+    if (message == BM_SETSTATE) // the user's press shows before anything else happens
+        UpdateWindow();
+}
+
+} // namespace _qv_commonctrl
