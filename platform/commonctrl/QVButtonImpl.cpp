@@ -1,6 +1,6 @@
 #include "QVButtonImpl.h"
 
-#include "QVSkinPicture.h"
+#include "QVMark.h"
 
 #include <algorithm>
 
@@ -15,16 +15,9 @@ constexpr int kTextMarginXPx = 12;
 constexpr int kTextMarginYPx = 5;
 constexpr int kContentInsetPx = 4; // between a push button's edge and its text
 constexpr int kLatchBarPx = 2;     // accent bar of a latched push button
-constexpr int kMarkBoxPx = 13;     // box of a check box, disc of a radio button
 constexpr int kMarkGapPx = 6;      // between the box and the text
 constexpr int kGroupTextInsetPx = 10;
 constexpr int kGroupTextGapPx = 5; // line to text
-
-constexpr int kMarkBorderColor = QVCLR_SCROLL_THUMB; // stands out from the ground more than a button's border
-
-constexpr wchar_t kCheckImage[] = L"CommonCtrl\\Button\\check.png";
-constexpr wchar_t kMixedImage[] = L"CommonCtrl\\Button\\mixed.png";
-constexpr wchar_t kRadioImage[] = L"CommonCtrl\\Button\\radio.png";
 
 CRect Centred(CSize size, const CRect& rect) {
     const int x = rect.left + (rect.Width() - size.cx) / 2;
@@ -185,7 +178,9 @@ void CQVButtonImpl::PaintCheck(CDC* dc, const CRect& client) const {
     else if (down == BS_BOTTOM)
         box.MoveToY(client.bottom - side - Px(1));
     box.MoveToX(boxRight ? client.right - side : client.left);
-    PaintMark(dc, box, state);
+    const MarkLook mark{GetKind() == Kind::Radio ? MarkShape::Radio : MarkShape::Check, state, CheckState(),
+                        IsFocused()};
+    DrawMark(dc, box, mark, QV_GetWindowDpi(Wnd()));
 
     CRect text(client);
     if (boxRight)
@@ -208,30 +203,6 @@ void CQVButtonImpl::PaintCheck(CDC* dc, const CRect& client) const {
         ring &= client;
         DrawFrameLines(dc, ring, QV_GetSysColor(QVCLR_ACCENT), Px(1));
     }
-}
-
-void CQVButtonImpl::PaintMark(CDC* dc, const CRect& box, ControlState state) const {
-    const bool radio = GetKind() == Kind::Radio;
-    BoxLook look;
-    look.fill = state == ControlState::Pressed    ? ControlFill(state)
-                : state == ControlState::Disabled ? ControlFill(state)
-                                                  : QV_GetSysColor(QVCLR_LIST);
-    look.border = QV_GetSysColor(state == ControlState::Disabled                ? QVCLR_GRID
-                                 : IsFocused() || state != ControlState::Normal ? QVCLR_ACCENT
-                                                                                : kMarkBorderColor);
-    look.borderPx = Px(1);
-    look.radiusPx = Px(2);
-    if (radio)
-        DrawDisc(dc, box, look);
-    else
-        DrawBox(dc, box, look);
-    const int check = CheckState();
-    if (check == BST_UNCHECKED)
-        return;
-    const wchar_t* file = radio ? kRadioImage : check == BST_INDETERMINATE ? kMixedImage : kCheckImage;
-    const SkinPicture mark(file, QVIMAGE_STATES, QV_GetWindowDpi(Wnd()));
-    const CRect place = Centred(mark.Size(), box);
-    mark.Draw(dc, static_cast<int>(state), place.left, place.top);
 }
 
 void CQVButtonImpl::PaintGroup(CDC* dc, const CRect& client) const {

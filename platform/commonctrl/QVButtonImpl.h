@@ -39,7 +39,6 @@ class CQVButtonImpl {
     void PaintPushContent(CDC* dc, CRect rect, ControlState state) const;
     bool PaintNativeImage(CDC* dc, const CRect& rect) const;
     void PaintCheck(CDC* dc, const CRect& client) const;
-    void PaintMark(CDC* dc, const CRect& box, ControlState state) const;
     void PaintGroup(CDC* dc, const CRect& client) const;
 
     const CWnd& m_button;

@@ -21,7 +21,7 @@ class RedrawPause {
         if (!m_paused || !::IsWindow(m_wnd))
             return;
         ::DefWindowProcW(m_wnd, WM_SETREDRAW, TRUE, 0);
-        ::InvalidateRect(m_wnd, nullptr, FALSE);
+        ::RedrawWindow(m_wnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     }
 
   private:

@@ -6,6 +6,10 @@
 
 namespace _qv_commonctrl {
 
+// Wears an EDIT window of any style. A border (WS_BORDER or WS_EX_CLIENTEDGE) is replaced by the skin's
+// frame; without one, and inside a combo box, the field stays frameless. The text of a single-line field
+// stands in the middle of its height. Scroll bars of a multi-line field are skinned. The parent must reflect
+// WM_CTLCOLOR* to the field, as every framework window does.
 class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     DECLARE_DYNAMIC(CQVEdit)
 
@@ -18,6 +22,21 @@ class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
   protected:
     void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+  private:
+    enum class FrameStep { None, Due, Done };
+
+    void TakeOverFrame();
+    void OnNcCalc(RECT& rect) const;
+    void PaintFrame();
+    int GroundColor() const;
+    int TextColor() const;
+    bool IsReadOnly() const;
+
+    FrameStep m_frameStep = FrameStep::None;
+    bool m_bFramed = false;
+    bool m_bHot = false;
 };
 
 } // namespace _qv_commonctrl
