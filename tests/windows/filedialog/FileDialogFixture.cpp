@@ -1,0 +1,76 @@
+#include "FileDialogFixture.h"
+
+#include "WindowQuery.h"
+
+namespace filedialog_test {
+
+using namespace _qv_commonclass;
+
+void FileDialog::SetUp() {
+    ASSERT_TRUE(QV_SetProfileRoot(L"Software\\QVCommonWndTest"));
+    m_formerFolder.resize(MAX_PATH);
+    m_formerFolder.resize(::GetCurrentDirectoryW(MAX_PATH, m_formerFolder.data()));
+}
+
+// The system dialog leaves the chosen folder current; a folder that is current cannot be deleted.
+void FileDialog::TearDown() {
+    ::SetCurrentDirectoryW(m_formerFolder.c_str());
+}
+
+std::unique_ptr<TestFileDialog> FileDialog::Make(Kind kind, const wchar_t* filter, DWORD flags, Names names,
+                                                 const wchar_t* name) const {
+    auto dialog = std::make_unique<TestFileDialog>(kind == Kind::Open, nullptr, name, flags, filter, nullptr,
+                                                   0, TRUE, names == Names::Raw, FDO_KEEPOK);
+    dialog->m_ofn.lpstrInitialDir = m_folder.path().c_str();
+    return dialog;
+}
+
+HWND FileDialog::Frame(Driver& user) {
+    HWND frame = nullptr;
+    user.waitFor("the file dialog", [&] {
+        for (const HWND window : qvtest::findWindows({.className = L"#32770"}))
+            if (const HWND edit = NameEdit(window); edit && ::IsWindowVisible(edit))
+                frame = window;
+        return frame != nullptr;
+    });
+    user.settle();
+    return frame;
+}
+
+HWND FileDialog::NameEdit(HWND frame) {
+    const HWND combo = ::GetDlgItem(frame, kFileNameCombo);
+    return combo ? qvtest::findDescendant(combo, L"Edit") : nullptr;
+}
+
+void FileDialog::Confirm(Driver& user, const std::wstring& name) {
+    const HWND frame = Frame(user);
+    user.send(NameEdit(frame), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    user.click(frame, kOk);
+}
+
+void FileDialog::ChooseFilter(Driver& user, HWND frame, int index) {
+    const HWND combo = ::GetDlgItem(frame, kFileTypeCombo);
+    user.send(combo, CB_SETCURSEL, static_cast<WPARAM>(index));
+    user.send(frame, WM_COMMAND, MAKEWPARAM(kFileTypeCombo, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+    user.settle();
+}
+
+INT_PTR FileDialog::Run(CQVFileDialog& dialog, const std::function<void(Driver&)>& act) {
+    ModalScript script(qvtest::Milliseconds(60000));
+    script.step("act on the dialog", act);
+    return script.run([&] { return dialog.DoModal(); });
+}
+
+std::vector<std::wstring> FileDialog::Paths(CQVFileDialog& dialog) {
+    std::vector<std::wstring> paths;
+    for (POSITION pos = dialog.GetStartPosition(); pos;)
+        paths.emplace_back(dialog.GetNextPathName(pos));
+    return paths;
+}
+
+std::wstring Lower(std::wstring text) {
+    ::CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
+} // namespace filedialog_test
