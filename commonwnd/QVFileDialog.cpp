@@ -64,6 +64,10 @@ void CQVFileDialog::ParseFilterPatterns() {
 }
 
 INT_PTR CQVFileDialog::DoModal() {
+    // An object may run again: what the last run ended with must not be taken for this one's end.
+    m_eSelType = eSelFile;
+    m_strSelPath.Empty();
+    m_strSelFormat.Empty();
     TestTempFilePath();
     return CFileDialog::DoModal();
 }
