@@ -109,7 +109,7 @@ LRESULT CQVButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (DrawsAtOnce(message)) {
         {
-            RedrawPause pause(m_hWnd);
+            NativePaintPause pause(m_hWnd);
             result = CButton::WindowProc(message, wParam, lParam);
         }
         AfterChange(message, wParam);

@@ -113,7 +113,7 @@ LRESULT CQVComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     const Drawing drawing = DrawingOf(message);
     if (drawing == Drawing::Silent) {
-        RedrawPause pause(m_hWnd);
+        NativePaintPause pause(m_hWnd);
         return CComboBox::WindowProc(message, wParam, lParam);
     }
     const LRESULT result = CComboBox::WindowProc(message, wParam, lParam);

@@ -146,7 +146,7 @@ LRESULT CQVComboLBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         break;
     }
     if (DrawsAtOnce(message)) {
-        RedrawPause pause(m_hWnd);
+        NativePaintPause pause(m_hWnd);
         return CListBox::WindowProc(message, wParam, lParam);
     }
     const LRESULT result = CListBox::WindowProc(message, wParam, lParam);

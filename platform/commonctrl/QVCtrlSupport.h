@@ -9,15 +9,15 @@ namespace _qv_commonctrl {
 
 // Keeps a control from drawing its native look while a message that draws at once is in work. Use it only
 // round messages that tell the parent nothing: the window counts as hidden meanwhile.
-class RedrawPause {
+class NativePaintPause {
   public:
-    explicit RedrawPause(HWND wnd) : m_wnd(wnd), m_paused(IsShown(wnd)) {
+    explicit NativePaintPause(HWND wnd) : m_wnd(wnd), m_paused(IsShown(wnd)) {
         if (m_paused)
             ::DefWindowProcW(m_wnd, WM_SETREDRAW, FALSE, 0);
     }
-    RedrawPause(const RedrawPause&) = delete;
-    RedrawPause& operator=(const RedrawPause&) = delete;
-    ~RedrawPause() {
+    NativePaintPause(const NativePaintPause&) = delete;
+    NativePaintPause& operator=(const NativePaintPause&) = delete;
+    ~NativePaintPause() {
         if (!m_paused || !::IsWindow(m_wnd))
             return;
         ::DefWindowProcW(m_wnd, WM_SETREDRAW, TRUE, 0);

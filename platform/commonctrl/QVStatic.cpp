@@ -175,7 +175,7 @@ LRESULT CQVStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETTEXT:
     case WM_SETFONT:
     case WM_ENABLE: {
-        RedrawPause pause(m_hWnd); // the system's static draws at these at once
+        NativePaintPause pause(m_hWnd); // the system's static draws at these at once
         return CStatic::WindowProc(message, wParam, lParam);
     }
     default:
