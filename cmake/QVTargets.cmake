@@ -12,7 +12,12 @@ if(QV_CCACHE)
 endif()
 
 # The runnable tree: copied to a Windows machine, it runs there as it stands.
-set(QV_STAGE ${CMAKE_SOURCE_DIR}/build/stage)
+set(QV_SANITIZER "" CACHE STRING "undefined, guard or empty: what watches the programs while they run")
+if(QV_SANITIZER)
+  set(QV_STAGE ${CMAKE_BINARY_DIR}/stage)
+else()
+  set(QV_STAGE ${CMAKE_SOURCE_DIR}/build/stage)
+endif()
 
 add_library(qv_options INTERFACE)
 target_compile_definitions(qv_options INTERFACE
@@ -27,6 +32,8 @@ target_link_options(qv_options INTERFACE -Wl,--no-insert-timestamp -Wl,--disable
 execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libssp.a
   OUTPUT_VARIABLE QV_STACK_GUARD OUTPUT_STRIP_TRAILING_WHITESPACE)
 target_link_libraries(qv_options INTERFACE ${QV_STACK_GUARD})
+
+include(QVSanitizers)
 
 # A folder whose sources are not there yet still makes its DLL, so that the others link and run.
 function(qv_empty_source name out)

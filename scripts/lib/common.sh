@@ -3,7 +3,7 @@
 
 QV_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 QV_BUILD=$QV_ROOT/build
-QV_STAGE=$QV_BUILD/stage
+QV_STAGE=${QV_STAGE:-$QV_BUILD/stage} # another one for the sanitizer builds
 export QV_ROOT QV_BUILD QV_STAGE
 
 say() { printf '== %s\n' "$*"; }
