@@ -3,9 +3,6 @@ set(CMAKE_POLICY_DEFAULT_CMP0077 NEW)
 set(INSTALL_GTEST OFF)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
-# The heap's own checks cost nothing that can be seen; the build's DLLs come before all others.
-set(QV_TEST_ENVIRONMENT "WINEDEBUG=-all,err+heap,warn+heap;QV_STAGE=${QV_STAGE}")
-
 # qv_add_test_program(NAME KIND rules|window [LIBS target...] [EXTRA_SOURCES file...] [CRASHES_ON_PURPOSE])
 # All .cpp and .rc files of the calling folder make one program. Table tests (rules) are one ctest entry a
 # program; window tests are one ctest entry a case, each in a process of its own, which has one of two displays for
@@ -30,12 +27,12 @@ function(qv_add_test_program name)
     include(GoogleTest)
     gtest_discover_tests(${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
       NO_PRETTY_VALUES
-      PROPERTIES TIMEOUT 120 LABELS window ENVIRONMENT "QV_WINE_SHARDS=2;${QV_TEST_ENVIRONMENT}"
+      PROPERTIES TIMEOUT 120 LABELS window ENVIRONMENT "QV_TEST_RUN=window:${QV_STAGE}"
       FAIL_REGULAR_EXPRESSION "${crash}")
   else()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 120 LABELS rules
-      ENVIRONMENT "${QV_TEST_ENVIRONMENT}"
+      ENVIRONMENT "QV_TEST_RUN=rules:${QV_STAGE}"
       FAIL_REGULAR_EXPRESSION "${crash}")
   endif()
 endfunction()

@@ -10,6 +10,7 @@ readonly WINE_LOADER=/usr/lib/wine/wine64
 readonly WINE_SETUP_VERSION=1
 readonly DISPLAY_SIZE=2560x1440x24
 readonly DISPLAY_START_TRIES=100 # of 0.1 s
+readonly TEST_SHARDS=2           # more than processors do not pay
 
 WINE_HOME=$QV_BUILD/wine
 
@@ -204,7 +205,7 @@ run_on_free_shard() {
     local shard
     mkdir -p "$WINE_HOME"
     while :; do
-        for ((shard = 0; shard < QV_WINE_SHARDS; ++shard)); do
+        for ((shard = 0; shard < TEST_SHARDS; ++shard)); do
             exec 8>"$WINE_HOME/shard-$shard.lock"
             if flock -n 8; then
                 QV_WINE_SHARD=$shard wine_ready 8>&-
