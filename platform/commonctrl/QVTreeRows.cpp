@@ -4,6 +4,8 @@
 #include "QVRowPaint.h"
 #include "QVSkinPicture.h"
 
+#include <cstring>
+
 namespace _qv_commonctrl {
 
 namespace {
@@ -48,7 +50,7 @@ TreeItemPainter::TreeItemPainter(HWND tree, CDC* dc, HTREEITEM item)
 
 CRect TreeItemPainter::RectOf(bool textOnly) const {
     CRect rect;
-    *reinterpret_cast<HTREEITEM*>(&rect) = m_item;
+    memcpy(&rect, &m_item, sizeof(m_item)); // the message takes the item where it puts the rectangle
     if (!SendMessageW(m_tree, TVM_GETITEMRECT, textOnly, reinterpret_cast<LPARAM>(&rect)))
         rect.SetRectEmpty();
     return rect;
