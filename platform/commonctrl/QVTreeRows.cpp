@@ -49,11 +49,10 @@ TreeItemPainter::TreeItemPainter(HWND tree, CDC* dc, HTREEITEM item)
 }
 
 CRect TreeItemPainter::RectOf(bool textOnly) const {
-    CRect rect;
+    RECT rect = {};
     memcpy(&rect, &m_item, sizeof(m_item)); // the message takes the item where it puts the rectangle
-    if (!SendMessageW(m_tree, TVM_GETITEMRECT, textOnly, reinterpret_cast<LPARAM>(&rect)))
-        rect.SetRectEmpty();
-    return rect;
+    const bool known = SendMessageW(m_tree, TVM_GETITEMRECT, textOnly, reinterpret_cast<LPARAM>(&rect)) != 0;
+    return known ? CRect(rect) : CRect();
 }
 
 // These draw what lies left of `right` and return where it begins.
