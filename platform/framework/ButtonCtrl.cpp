@@ -1,10 +1,12 @@
-#include "afxwin.h"
+#include "afxctl_std.h"
 
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 
-BOOL CButton::Create(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_BUTTONW, text, style, rect, parent, id);
-}
-
-void CButton::DrawItem(LPDRAWITEMSTRUCT) {
+BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
+        return TRUE;
+    if (message != WM_DRAWITEM)
+        return FALSE;
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
 }

@@ -1,66 +1,41 @@
-#include "afxwin.h"
+#include "afxctl_list.h"
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
-BOOL CComboBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_COMBOBOXW, nullptr, style, rect, parent, id);
-}
-
-int CComboBox::SetCurSel(int index) {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_SETCURSEL, static_cast<WPARAM>(index), 0));
-}
-
-int CComboBox::AddString(LPCTSTR text) {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)));
-}
-
-int CComboBox::InsertString(int index, LPCTSTR text) {
-    return static_cast<int>(
-        ::SendMessageW(m_hWnd, CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text)));
-}
-
-int CComboBox::FindString(int startAfter, LPCTSTR text) const {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_FINDSTRING, static_cast<WPARAM>(startAfter),
-                                           reinterpret_cast<LPARAM>(text)));
-}
-
-int CComboBox::FindStringExact(int startAfter, LPCTSTR text) const {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_FINDSTRINGEXACT, static_cast<WPARAM>(startAfter),
-                                           reinterpret_cast<LPARAM>(text)));
-}
-
-int CComboBox::SelectString(int startAfter, LPCTSTR text) {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_SELECTSTRING, static_cast<WPARAM>(startAfter),
-                                           reinterpret_cast<LPARAM>(text)));
-}
-
-int CComboBox::GetLBTextLen(int index) const {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0));
-}
-
-void CComboBox::GetLBText(int index, CString& text) const {
-    text.Empty();
-    const int length = GetLBTextLen(index);
+void CComboBox::GetLBText(int nIndex, CString& rString) const {
+    rString.Empty();
+    const int length = GetLBTextLen(nIndex);
     if (length <= 0)
         return;
-    ::SendMessageW(m_hWnd, CB_GETLBTEXT, static_cast<WPARAM>(index),
-                   reinterpret_cast<LPARAM>(text.GetBufferSetLength(length)));
-    text.ReleaseBuffer();
+    const int stored = GetLBText(nIndex, rString.GetBuffer(length));
+    rString.ReleaseBuffer(stored < 0 ? 0 : stored);
 }
 
-DWORD_PTR CComboBox::GetItemData(int index) const {
-    return static_cast<DWORD_PTR>(::SendMessageW(m_hWnd, CB_GETITEMDATA, static_cast<WPARAM>(index), 0));
+int CComboBox::SetMinVisibleItems(int iMinVisible) {
+    return Ask(CB_SETMINVISIBLE, iMinVisible);
 }
 
-int CComboBox::SetItemData(int index, DWORD_PTR data) {
-    return static_cast<int>(
-        ::SendMessageW(m_hWnd, CB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
-}
-
-int CComboBox::GetItemHeight(int index) const {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_GETITEMHEIGHT, static_cast<WPARAM>(index), 0));
-}
-
-int CComboBox::SetItemHeight(int index, UINT height) {
-    return static_cast<int>(::SendMessageW(m_hWnd, CB_SETITEMHEIGHT, static_cast<WPARAM>(index), height));
+BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
+        return TRUE;
+    LRESULT result = 0;
+    switch (message) {
+    case WM_DRAWITEM:
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        break;
+    case WM_MEASUREITEM:
+        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        break;
+    case WM_COMPAREITEM:
+        result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        break;
+    case WM_DELETEITEM:
+        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        break;
+    default:
+        return FALSE;
+    }
+    if (pResult)
+        *pResult = result;
+    return TRUE;
 }

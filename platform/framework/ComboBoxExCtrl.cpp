@@ -2,14 +2,20 @@
 
 IMPLEMENT_DYNAMIC(CComboBoxEx, CComboBox)
 
-BOOL CComboBoxEx::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_COMBOBOXEXW, nullptr, style, rect, parent, id);
+BOOL CComboBoxEx::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create(WC_COMBOBOXEXW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
-int CComboBoxEx::InsertItem(const COMBOBOXEXITEMW* item) {
-    return static_cast<int>(::SendMessageW(m_hWnd, CBEM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(item)));
+CEdit* CComboBoxEx::GetEditCtrl() {
+    return static_cast<CEdit*>(FromHandle(reinterpret_cast<HWND>(SendMessage(CBEM_GETEDITCONTROL))));
 }
 
-BOOL CComboBoxEx::GetItem(COMBOBOXEXITEMW* item) const {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, CBEM_GETITEMW, 0, reinterpret_cast<LPARAM>(item)));
+CComboBox* CComboBoxEx::GetComboBoxCtrl() {
+    return static_cast<CComboBox*>(FromHandle(reinterpret_cast<HWND>(SendMessage(CBEM_GETCOMBOCONTROL))));
+}
+
+CImageList* CComboBoxEx::SetImageList(CImageList* pImageList) {
+    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
+    return CImageList::FromHandle(
+        reinterpret_cast<HIMAGELIST>(SendMessage(CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list))));
 }

@@ -2,8 +2,9 @@
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 
-CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<UINT>(0), pParentWnd) {}
+CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<LPCTSTR>(nullptr), pParentWnd) {}
 
+// The system's dialog ends itself.
 void CCommonDialog::OnOK() {
     Default();
 }

@@ -1,167 +1,108 @@
+// CFileDialog: the object, the modal run and the hook.
+#include "ThreadState.h"
 #include "afxdlgs.h"
 
 #include <algorithm>
-#include <exception>
+#include <cwchar>
 
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
 
 namespace {
 
-// "a|*.a|b|*.b||" as the system wants it: NULs for bars, a double NUL at the end (CString adds one of its own).
-CString FilterWithNuls(LPCTSTR filter) {
-    CString result(filter);
-    wchar_t* text = result.GetBuffer(result.GetLength() + 1);
-    const int length = static_cast<int>(wcslen(text));
-    for (int i = 0; i < length; ++i) {
-        if (text[i] == L'|')
-            text[i] = L'\0';
-    }
-    text[length] = L'\0';
-    result.ReleaseBuffer(length + 1);
-    return result;
+// "a|*.a|b|*.b||" in the form the system wants: NULs for bars, and an empty string at the end.
+CString FilterWithNuls(LPCTSTR lpszFilter) {
+    CString filter(lpszFilter);
+    const int length = filter.GetLength();
+    LPTSTR const text = filter.GetBuffer(length + 2);
+    std::replace(text, text + length, L'|', L'\0');
+    text[length] = text[length + 1] = L'\0';
+    filter.ReleaseBuffer(length + 2);
+    return filter;
 }
+
+// Names the object to the hook for the length of the system's call; dialogs may be nested.
+class StartingDialog {
+  public:
+    explicit StartingDialog(CFileDialog* dialog)
+        : m_outer(std::exchange(AfxThreadState::Get().startingFileDialog, dialog)) {}
+    ~StartingDialog() { AfxThreadState::Get().startingFileDialog = m_outer; }
+    StartingDialog(const StartingDialog&) = delete;
+    StartingDialog& operator=(const StartingDialog&) = delete;
+
+  private:
+    CFileDialog* m_outer;
+};
 
 } // namespace
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
-                         LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize, BOOL)
-    : CCommonDialog(pParentWnd), m_ofn{}, m_bOpenFileDialog(bOpenFileDialog), m_szFileTitle{}, m_szFileName{} {
-    m_ofn.lStructSize = dwSize ? dwSize : sizeof m_ofn;
-    m_ofn.lpstrFile = m_szFileName;
-    m_ofn.nMaxFile = MAX_PATH;
-    m_ofn.lpstrDefExt = lpszDefExt;
+                         LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD, BOOL)
+    : CCommonDialog(pParentWnd), m_ofn{}, m_bOpenFileDialog(bOpenFileDialog), m_strDefExt(lpszDefExt),
+      m_pszNameBuffer(new TCHAR[kNameBufferChars]()), m_szFileTitle{} {
+    m_ofn.lStructSize = sizeof m_ofn;
+    m_ofn.lpstrFile = m_pszNameBuffer;
+    m_ofn.nMaxFile = kNameBufferChars;
     m_ofn.lpstrFileTitle = m_szFileTitle;
     m_ofn.nMaxFileTitle = MAX_PATH;
-    m_ofn.Flags = dwFlags | OFN_ENABLEHOOK | OFN_EXPLORER;
+    m_ofn.Flags = dwFlags | OFN_EXPLORER | OFN_ENABLEHOOK;
     m_ofn.lpfnHook = HookProc;
-    m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
-    if (lpszFileName)
-        wcsncpy_s(m_szFileName, lpszFileName, _TRUNCATE);
-    if (lpszFilter) {
+    if (lpszDefExt)
+        m_ofn.lpstrDefExt = m_strDefExt;
+    if (lpszFileName) {
+        const size_t length = std::min<size_t>(wcslen(lpszFileName), kNameBufferChars - 1);
+        std::copy_n(lpszFileName, length, m_pszNameBuffer);
+    }
+    if (lpszFilter && *lpszFilter) {
         m_strFilter = FilterWithNuls(lpszFilter);
         m_ofn.lpstrFilter = m_strFilter;
     }
 }
 
+CFileDialog::~CFileDialog() {
+    delete[] m_pszNameBuffer;
+}
+
 INT_PTR CFileDialog::DoModal() {
-    CWnd* owner = m_pParentWnd ? m_pParentWnd : AfxGetMainWnd();
-    m_ofn.hwndOwner = owner && owner->GetSafeHwnd() ? owner->GetTopLevelParent()->GetSafeHwnd() : nullptr;
+    if (m_hWnd || !m_ofn.lpstrFile || m_ofn.nMaxFile == 0)
+        return IDCANCEL;
+    // What stood behind the first name in a buffer that is used again must not be taken for further names.
+    const size_t used = wcsnlen(m_ofn.lpstrFile, m_ofn.nMaxFile - 1);
+    std::fill(m_ofn.lpstrFile + used, m_ofn.lpstrFile + m_ofn.nMaxFile, L'\0');
+
+    const HWND focus = ::GetFocus();
+    m_ofn.hwndOwner = PreModal();
     if (!m_ofn.hInstance)
         m_ofn.hInstance = AfxGetResourceHandle();
-    const HWND focus = ::GetFocus();
-    const BOOL chosen = m_bOpenFileDialog ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn);
-    if (m_hWnd)
+    const unsigned long long firstTemporary = AfxThreadState::Get().temporaryWindows.NextSerial();
+    BOOL chosen = FALSE;
+    {
+        const StartingDialog starting(this);
+        chosen = m_bOpenFileDialog ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn);
+    }
+    PostModal();
+    if (m_hWnd) // the hook's window went without telling
         Detach();
-    if (::IsWindow(focus))
+    // The system's own loop never is idle: what it left of temporary objects goes here.
+    AfxThreadState::Get().temporaryWindows.RemoveSince(firstTemporary);
+    if (focus && ::IsWindow(focus))
         ::SetFocus(focus);
     return chosen ? IDOK : IDCANCEL;
 }
 
-UINT_PTR CALLBACK CFileDialog::HookProc(HWND hDlg, UINT message, WPARAM, LPARAM lParam) noexcept {
+UINT_PTR CALLBACK CFileDialog::HookProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
     if (message != WM_INITDIALOG)
         return 0;
-    auto* dialog = reinterpret_cast<CFileDialog*>(reinterpret_cast<OPENFILENAMEW*>(lParam)->lCustData);
+    CFileDialog* const dialog = std::exchange(AfxThreadState::Get().startingFileDialog, nullptr);
+    if (!dialog)
+        return 0;
     try {
-        return dialog->OnHookInit(hDlg);
-    } catch (const std::exception& fault) {
-        ::OutputDebugStringA(fault.what());
+        // From here on the messages of the hook's window come through the framework.
+        if (dialog->SubclassWindow(hWnd))
+            return static_cast<UINT_PTR>(dialog->OnInitDialog());
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) {
+        ::OutputDebugStringW(L"AfxFrame: the file dialog's initialisation threw\n");
     }
-    return 1;
-}
-
-// From here on every message of the hook's child dialog comes through the framework.
-UINT_PTR CFileDialog::OnHookInit(HWND hDlg) {
-    if (!m_hWnd)
-        SubclassWindow(hDlg);
-    return static_cast<UINT_PTR>(OnInitDialog());
-}
-
-// Asks the running dialog's frame with one of the CDM_GET... messages, whatever the length of the answer.
-CString CFileDialog::AskRunning(UINT message) const {
-    const HWND frame = ::GetParent(m_hWnd);
-    CString answer;
-    for (int size = MAX_PATH;;) {
-        const LRESULT needed = ::SendMessageW(frame, message, static_cast<WPARAM>(size),
-                                              reinterpret_cast<LPARAM>(answer.GetBuffer(size)));
-        if (needed <= 0) {
-            answer.ReleaseBuffer(0);
-            return answer;
-        }
-        if (needed <= size) {
-            answer.ReleaseBuffer();
-            return answer;
-        }
-        answer.ReleaseBuffer(0);
-        size = static_cast<int>(needed);
-    }
-}
-
-CString CFileDialog::GetPathName() const {
-    if (m_hWnd)
-        return AskRunning(CDM_GETFILEPATH);
-    POSITION pos = GetStartPosition();
-    return pos ? GetNextPathName(pos) : CString();
-}
-
-CString CFileDialog::GetFileName() const {
-    if (m_hWnd)
-        return AskRunning(CDM_GETSPEC);
-    const CString path = GetPathName();
-    return path.Mid(path.ReverseFind(L'\\') + 1);
-}
-
-CString CFileDialog::GetFileExt() const {
-    const CString name = m_hWnd ? AskRunning(CDM_GETSPEC) : GetFileName();
-    const int dot = name.ReverseFind(L'.');
-    return dot < 0 ? CString() : name.Mid(dot + 1);
-}
-
-CString CFileDialog::GetFileTitle() const {
-    const CString name = GetFileName();
-    const int dot = name.ReverseFind(L'.');
-    return dot < 0 ? name : name.Left(dot);
-}
-
-CString CFileDialog::GetFolderPath() const {
-    return m_hWnd ? AskRunning(CDM_GETFOLDERPATH) : CString();
-}
-
-BOOL CFileDialog::GetReadOnlyPref() const {
-    return (m_ofn.Flags & OFN_READONLY) != 0;
-}
-
-POSITION CFileDialog::GetStartPosition() const {
-    return m_ofn.lpstrFile && *m_ofn.lpstrFile ? reinterpret_cast<POSITION>(m_ofn.lpstrFile) : nullptr;
-}
-
-// The list's last NUL, bounded by the buffer.
-LPCWSTR CFileDialog::FileListEnd() const {
-    return m_ofn.lpstrFile + m_ofn.nMaxFile;
-}
-
-// One file: its full path. Several: the folder, then the names, NUL after each, one more NUL at the end. The position
-// points to the next name, or to the folder at the start.
-CString CFileDialog::GetNextPathName(POSITION& pos) const {
-    LPCWSTR const start = m_ofn.lpstrFile;
-    LPCWSTR const end = FileListEnd();
-    LPCWSTR current = reinterpret_cast<LPCWSTR>(pos);
-    pos = nullptr;
-    if (!current || current < start || current >= end)
-        return CString();
-    auto next = [end](LPCWSTR text) { return std::min(text + wcsnlen(text, static_cast<size_t>(end - text)) + 1, end); };
-
-    const bool many = (m_ofn.Flags & OFN_ALLOWMULTISELECT) != 0;
-    LPCWSTR const first = next(start);
-    if (!many || first >= end || !*first)
-        return CString(start, static_cast<int>(wcsnlen(start, static_cast<size_t>(end - start))));
-    if (current == start)
-        current = first;
-    CString path(start);
-    if (path.Right(1) != L"\\")
-        path += L'\\';
-    path += CString(current, static_cast<int>(wcsnlen(current, static_cast<size_t>(end - current))));
-    LPCWSTR const following = next(current);
-    if (following < end && *following)
-        pos = reinterpret_cast<POSITION>(const_cast<wchar_t*>(following));
-    return path;
+    return 0;
 }

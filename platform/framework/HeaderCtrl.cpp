@@ -1,27 +1,22 @@
-#include "afxcmn.h"
+#include "afxctl_listview.h"
 
 IMPLEMENT_DYNAMIC(CHeaderCtrl, CWnd)
 
-BOOL CHeaderCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_HEADERW, nullptr, style, rect, parent, id);
+BOOL CHeaderCtrl::GetOrderArray(LPINT piArray, int iCount) {
+    return Item(HDM_GETORDERARRAY, iCount < 0 ? GetItemCount() : iCount, piArray);
 }
 
-BOOL CHeaderCtrl::GetItem(int index, HDITEMW* item) const {
-    return static_cast<BOOL>(
-        ::SendMessageW(m_hWnd, HDM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item)));
+CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList) {
+    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
+    return CImageList::FromHandle(
+        reinterpret_cast<HIMAGELIST>(SendMessage(HDM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list))));
 }
 
-BOOL CHeaderCtrl::SetItem(int index, HDITEMW* item) {
-    return static_cast<BOOL>(
-        ::SendMessageW(m_hWnd, HDM_SETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item)));
-}
-
-int CHeaderCtrl::InsertItem(int index, HDITEMW* item) {
-    return static_cast<int>(
-        ::SendMessageW(m_hWnd, HDM_INSERTITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CHeaderCtrl::GetItemRect(int index, LPRECT rect) const {
-    return static_cast<BOOL>(
-        ::SendMessageW(m_hWnd, HDM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
+BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
+        return TRUE;
+    if (message != WM_DRAWITEM)
+        return FALSE;
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
 }

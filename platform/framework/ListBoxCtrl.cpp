@@ -1,58 +1,49 @@
-#include "afxwin.h"
+#include "afxctl_list.h"
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
-BOOL CListBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_LISTBOXW, nullptr, style, rect, parent, id);
-}
-
-int CListBox::SetCurSel(int index) {
-    return static_cast<int>(::SendMessageW(m_hWnd, LB_SETCURSEL, static_cast<WPARAM>(index), 0));
-}
-
-int CListBox::AddString(LPCTSTR text) {
-    return static_cast<int>(::SendMessageW(m_hWnd, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)));
-}
-
-int CListBox::InsertString(int index, LPCTSTR text) {
-    return static_cast<int>(
-        ::SendMessageW(m_hWnd, LB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text)));
-}
-
-int CListBox::GetTextLen(int index) const {
-    return static_cast<int>(::SendMessageW(m_hWnd, LB_GETTEXTLEN, static_cast<WPARAM>(index), 0));
-}
-
-void CListBox::GetText(int index, CString& text) const {
-    text.Empty();
-    const int length = GetTextLen(index);
+void CListBox::GetText(int nIndex, CString& rString) const {
+    rString.Empty();
+    const int length = GetTextLen(nIndex);
     if (length <= 0)
         return;
-    ::SendMessageW(m_hWnd, LB_GETTEXT, static_cast<WPARAM>(index),
-                   reinterpret_cast<LPARAM>(text.GetBufferSetLength(length)));
-    text.ReleaseBuffer();
+    const int stored = GetText(nIndex, rString.GetBuffer(length));
+    rString.ReleaseBuffer(stored < 0 ? 0 : stored);
 }
 
-DWORD_PTR CListBox::GetItemData(int index) const {
-    return static_cast<DWORD_PTR>(::SendMessageW(m_hWnd, LB_GETITEMDATA, static_cast<WPARAM>(index), 0));
-}
-
-int CListBox::SetItemData(int index, DWORD_PTR data) {
-    return static_cast<int>(
-        ::SendMessageW(m_hWnd, LB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
-}
-
-int CListBox::GetItemRect(int index, LPRECT rect) const {
-    return static_cast<int>(
-        ::SendMessageW(m_hWnd, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
-}
-
-int CListBox::SetTopIndex(int index) {
-    return static_cast<int>(::SendMessageW(m_hWnd, LB_SETTOPINDEX, static_cast<WPARAM>(index), 0));
-}
-
-UINT CListBox::ItemFromPoint(CPoint point, BOOL& outside) const {
-    const LRESULT hit = ::SendMessageW(m_hWnd, LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y));
-    outside = HIWORD(hit) != 0;
+UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const {
+    const auto hit = static_cast<DWORD>(SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y)));
+    bOutside = HIWORD(hit);
     return LOWORD(hit);
+}
+
+BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
+        return TRUE;
+    LRESULT result = 0;
+    switch (message) {
+    case WM_DRAWITEM:
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        break;
+    case WM_MEASUREITEM:
+        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        break;
+    case WM_COMPAREITEM:
+        result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        break;
+    case WM_DELETEITEM:
+        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        break;
+    case WM_VKEYTOITEM:
+        result = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
+        break;
+    case WM_CHARTOITEM:
+        result = CharToItem(LOWORD(wParam), HIWORD(wParam));
+        break;
+    default:
+        return FALSE;
+    }
+    if (pResult)
+        *pResult = result;
+    return TRUE;
 }

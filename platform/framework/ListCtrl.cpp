@@ -1,165 +1,171 @@
-#include "afxcmn.h"
+#include "afxctl_listview.h"
 
-IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
+IMPLEMENT_DYNCREATE(CListCtrl, CWnd)
 
 namespace {
 
-constexpr int kFirstTextLength = 128;
-constexpr int kLongestText = 1 << 20; // the control copies at most what the buffer holds: grow up to here
-
-LRESULT Send(const CWnd& list, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    return ::SendMessageW(list.m_hWnd, message, wParam, lParam);
-}
-
-template <class T> LPARAM Pointer(const T* value) {
-    return reinterpret_cast<LPARAM>(value);
-}
+constexpr int kFirstTextChars = 128;
+constexpr int kLongestTextChars = 1 << 20; // the control copies what fits: the buffer grows up to here
 
 } // namespace
 
-BOOL CListCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_LISTVIEWW, nullptr, style, rect, parent, id);
+CImageList* CListCtrl::GetImageList(int nImageList) const {
+    return CImageList::FromHandle(
+        reinterpret_cast<HIMAGELIST>(SendMessage(LVM_GETIMAGELIST, static_cast<WPARAM>(nImageList))));
 }
 
-CHeaderCtrl* CListCtrl::GetHeaderCtrl() const {
-    return static_cast<CHeaderCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(Send(*this, LVM_GETHEADER))));
+CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
+    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
+    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
+        SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType), reinterpret_cast<LPARAM>(list))));
 }
 
-int CListCtrl::InsertColumn(int index, LPCTSTR heading, int format, int width, int subItem) {
-    LVCOLUMNW column = {};
-    column.mask = LVCF_TEXT | LVCF_FMT;
-    column.fmt = format;
-    column.pszText = const_cast<wchar_t*>(heading);
-    if (width != -1) {
-        column.mask |= LVCF_WIDTH;
-        column.cx = width;
-    }
-    if (subItem != -1) {
-        column.mask |= LVCF_SUBITEM;
-        column.iSubItem = subItem;
-    }
-    return InsertColumn(index, &column);
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
+                        UINT nStateMask, LPARAM lParam) {
+    LVITEM item = {};
+    item.mask = nMask;
+    item.iItem = nItem;
+    item.iSubItem = nSubItem;
+    item.state = nState;
+    item.stateMask = nStateMask;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.iImage = nImage;
+    item.lParam = lParam;
+    return SetItem(&item);
 }
 
-int CListCtrl::InsertColumn(int index, const LVCOLUMNW* column) {
-    return static_cast<int>(Send(*this, LVM_INSERTCOLUMNW, static_cast<WPARAM>(index), Pointer(column)));
-}
-
-BOOL CListCtrl::SetColumn(int index, const LVCOLUMNW* column) {
-    return static_cast<BOOL>(Send(*this, LVM_SETCOLUMNW, static_cast<WPARAM>(index), Pointer(column)));
-}
-
-BOOL CListCtrl::SetColumnWidth(int index, int width) {
-    return static_cast<BOOL>(
-        Send(*this, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(index), MAKELPARAM(width, 0)));
-}
-
-int CListCtrl::GetColumnWidth(int index) const {
-    return static_cast<int>(Send(*this, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
-}
-
-int CListCtrl::InsertItem(int index, LPCTSTR text) {
-    LVITEMW item = {};
+int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem) {
+    LVITEM item = {};
     item.mask = LVIF_TEXT;
-    item.iItem = index;
-    item.pszText = const_cast<wchar_t*>(text);
+    item.iItem = nItem;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
     return InsertItem(&item);
 }
 
-int CListCtrl::InsertItem(const LVITEMW* item) {
-    return static_cast<int>(Send(*this, LVM_INSERTITEMW, 0, Pointer(item)));
+int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem, int nImage) {
+    LVITEM item = {};
+    item.mask = LVIF_TEXT | LVIF_IMAGE;
+    item.iItem = nItem;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.iImage = nImage;
+    return InsertItem(&item);
 }
 
-BOOL CListCtrl::SetItem(const LVITEMW* item) {
-    return static_cast<BOOL>(Send(*this, LVM_SETITEMW, 0, Pointer(item)));
+int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const {
+    LVITEM item = {};
+    item.iSubItem = nSubItem;
+    item.cchTextMax = nLen;
+    item.pszText = lpszText;
+    return Ask(LVM_GETITEMTEXTW, nItem, &item);
 }
 
-BOOL CListCtrl::GetItem(LVITEMW* item) const {
-    return static_cast<BOOL>(Send(*this, LVM_GETITEMW, 0, Pointer(item)));
-}
-
-BOOL CListCtrl::SetItemText(int index, int subItem, LPCTSTR text) {
-    LVITEMW item = {};
-    item.iSubItem = subItem;
-    item.pszText = const_cast<wchar_t*>(text);
-    return static_cast<BOOL>(Send(*this, LVM_SETITEMTEXTW, static_cast<WPARAM>(index), Pointer(&item)));
-}
-
-CString CListCtrl::GetItemText(int index, int subItem) const {
+CString CListCtrl::GetItemText(int nItem, int nSubItem) const {
     CString text;
-    for (int size = kFirstTextLength; size <= kLongestText; size *= 2) {
-        LVITEMW item = {};
-        item.iSubItem = subItem;
-        item.cchTextMax = size;
-        item.pszText = text.GetBuffer(size);
-        const int length =
-            static_cast<int>(Send(*this, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), Pointer(&item)));
-        text.ReleaseBuffer(length);
-        if (length < size - 1)
+    for (int chars = kFirstTextChars; chars <= kLongestTextChars; chars *= 2) {
+        const int length = GetItemText(nItem, nSubItem, text.GetBuffer(chars), chars);
+        text.ReleaseBuffer(length < 0 ? 0 : length);
+        if (length < chars - 1)
             break;
     }
     return text;
 }
 
-DWORD_PTR CListCtrl::GetItemData(int index) const {
-    LVITEMW item = {};
+BOOL CListCtrl::SetItemText(int nItem, int nSubItem, LPCTSTR lpszText) {
+    LVITEM item = {};
+    item.iSubItem = nSubItem;
+    item.pszText = const_cast<LPTSTR>(lpszText);
+    return Ask(LVM_SETITEMTEXTW, nItem, &item);
+}
+
+DWORD_PTR CListCtrl::GetItemData(int nItem) const {
+    LVITEM item = {};
     item.mask = LVIF_PARAM;
-    item.iItem = index;
+    item.iItem = nItem;
     return GetItem(&item) ? static_cast<DWORD_PTR>(item.lParam) : 0;
 }
 
-BOOL CListCtrl::SetItemData(int index, DWORD_PTR data) {
-    LVITEMW item = {};
-    item.mask = LVIF_PARAM;
-    item.iItem = index;
-    item.lParam = static_cast<LPARAM>(data);
-    return SetItem(&item);
+BOOL CListCtrl::SetItemData(int nItem, DWORD_PTR dwData) {
+    return SetItem(nItem, 0, LVIF_PARAM, nullptr, 0, 0, 0, static_cast<LPARAM>(dwData));
 }
 
-UINT CListCtrl::GetItemState(int index, UINT mask) const {
-    return static_cast<UINT>(
-        Send(*this, LVM_GETITEMSTATE, static_cast<WPARAM>(index), static_cast<LPARAM>(mask)));
+BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask) {
+    LVITEM item = {};
+    item.state = nState;
+    item.stateMask = nMask;
+    return SetItemState(nItem, &item);
 }
 
-BOOL CListCtrl::SetItemState(int index, UINT state, UINT mask) {
-    LVITEMW item = {};
-    item.state = state;
-    item.stateMask = mask;
-    return static_cast<BOOL>(Send(*this, LVM_SETITEMSTATE, static_cast<WPARAM>(index), Pointer(&item)));
+// A position is the item's index plus one, so that the first item is not null.
+POSITION CListCtrl::GetFirstSelectedItemPosition() const {
+    return reinterpret_cast<POSITION>(static_cast<INT_PTR>(GetNextItem(-1, LVNI_SELECTED) + 1));
 }
 
-int CListCtrl::GetNextItem(int after, int flags) const {
-    return static_cast<int>(Send(*this, LVM_GETNEXTITEM, static_cast<WPARAM>(after), MAKELPARAM(flags, 0)));
+int CListCtrl::GetNextSelectedItem(POSITION& pos) const {
+    const int item = static_cast<int>(reinterpret_cast<INT_PTR>(pos)) - 1;
+    if (item >= 0)
+        pos = reinterpret_cast<POSITION>(static_cast<INT_PTR>(GetNextItem(item, LVNI_SELECTED) + 1));
+    return item;
 }
 
-BOOL CListCtrl::EnsureVisible(int index, BOOL partialOk) {
-    return static_cast<BOOL>(Send(*this, LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), partialOk));
+BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const {
+    lpRect->left = static_cast<LONG>(nCode); // the message takes the part there
+    return Ask(LVM_GETITEMRECT, nItem, lpRect);
 }
 
-BOOL CListCtrl::GetItemRect(int index, LPRECT rect, UINT part) const {
-    rect->left = static_cast<LONG>(part);
-    return static_cast<BOOL>(Send(*this, LVM_GETITEMRECT, static_cast<WPARAM>(index), Pointer(rect)));
+BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) {
+    ref.top = iSubItem;
+    ref.left = nArea;
+    return Ask(LVM_GETSUBITEMRECT, iItem, static_cast<LPRECT>(ref));
 }
 
-BOOL CListCtrl::GetSubItemRect(int index, int subItem, int part, CRect& rect) const {
-    rect.top = subItem;
-    rect.left = part;
-    return static_cast<BOOL>(Send(*this, LVM_GETSUBITEMRECT, static_cast<WPARAM>(index), Pointer(&rect)));
+int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const {
+    LVHITTESTINFO hit = {};
+    hit.pt = pt;
+    const int item = HitTest(&hit);
+    if (pFlags)
+        *pFlags = hit.flags;
+    return item;
 }
 
-int CListCtrl::HitTest(LVHITTESTINFO* hit) const {
-    return static_cast<int>(Send(*this, LVM_HITTEST, 0, Pointer(hit)));
+CSize CListCtrl::SetIconSpacing(CSize size) {
+    const auto former = static_cast<DWORD>(SendMessage(LVM_SETICONSPACING, 0, MAKELPARAM(size.cx, size.cy)));
+    return CSize(LOWORD(former), HIWORD(former));
 }
 
-DWORD CListCtrl::SetExtendedStyle(DWORD style) {
-    return static_cast<DWORD>(Send(*this, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(style)));
+int CListCtrl::InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat, int nWidth, int nSubItem) {
+    LVCOLUMN column = {};
+    column.mask = LVCF_TEXT | LVCF_FMT;
+    column.fmt = nFormat;
+    column.pszText = const_cast<LPTSTR>(lpszColumnHeading);
+    if (nWidth != -1) {
+        column.mask |= LVCF_WIDTH;
+        column.cx = nWidth;
+    }
+    if (nSubItem != -1) {
+        column.mask |= LVCF_SUBITEM;
+        column.iSubItem = nSubItem;
+    }
+    return InsertColumn(nCol, &column);
 }
 
-HIMAGELIST CListCtrl::SetImageList(HIMAGELIST images, int kind) {
-    return reinterpret_cast<HIMAGELIST>(
-        Send(*this, LVM_SETIMAGELIST, static_cast<WPARAM>(kind), Pointer(images)));
+CHeaderCtrl* CListCtrl::GetHeaderCtrl() {
+    return static_cast<CHeaderCtrl*>(FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER))));
 }
 
-HIMAGELIST CListCtrl::GetImageList(int kind) const {
-    return reinterpret_cast<HIMAGELIST>(Send(*this, LVM_GETIMAGELIST, static_cast<WPARAM>(kind)));
+CEdit* CListCtrl::EditLabel(int nItem) {
+    return static_cast<CEdit*>(
+        FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_EDITLABELW, static_cast<WPARAM>(nItem)))));
+}
+
+CEdit* CListCtrl::GetEditControl() const {
+    return static_cast<CEdit*>(FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_GETEDITCONTROL))));
+}
+
+BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
+        return TRUE;
+    if (message != WM_DRAWITEM)
+        return FALSE;
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
 }

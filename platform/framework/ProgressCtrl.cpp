@@ -1,14 +1,10 @@
-#include "afxcmn.h"
+#include "afxctl_bars.h"
 
 IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
 
-BOOL CProgressCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(PROGRESS_CLASSW, nullptr, style, rect, parent, id);
-}
-
-void CProgressCtrl::GetRange(int& lower, int& upper) const {
+void CProgressCtrl::GetRange(int& nLower, int& nUpper) const {
     PBRANGE range = {};
-    ::SendMessageW(m_hWnd, PBM_GETRANGE, FALSE, reinterpret_cast<LPARAM>(&range));
-    lower = range.iLow;
-    upper = range.iHigh;
+    SendMessage(PBM_GETRANGE, FALSE, reinterpret_cast<LPARAM>(&range));
+    nLower = range.iLow;
+    nUpper = range.iHigh;
 }

@@ -1,34 +1,26 @@
-#include "afxcmn.h"
+#include "afxctl_bars.h"
 
 IMPLEMENT_DYNAMIC(CToolBarCtrl, CWnd)
 
-BOOL CToolBarCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    if (!CWnd::Create(TOOLBARCLASSNAMEW, nullptr, style, rect, parent, id))
+BOOL CToolBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    if (!CWnd::Create(TOOLBARCLASSNAMEW, nullptr, dwStyle, rect, pParentWnd, nID))
         return FALSE;
-    ::SendMessageW(m_hWnd, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     return TRUE;
 }
 
-BOOL CToolBarCtrl::GetButton(int index, LPTBBUTTON button) const {
-    return static_cast<BOOL>(
-        ::SendMessageW(m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(button)));
+CImageList* CToolBarCtrl::SetImageList(CImageList* pImageList) {
+    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
+    return CImageList::FromHandle(
+        reinterpret_cast<HIMAGELIST>(SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list))));
 }
 
-BOOL CToolBarCtrl::GetItemRect(int index, LPRECT rect) const {
-    return static_cast<BOOL>(
-        ::SendMessageW(m_hWnd, TB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
-}
-
-BOOL CToolBarCtrl::GetButtonInfo(int id, TBBUTTONINFOW* info) const {
-    info->cbSize = sizeof *info;
-    return ::SendMessageW(m_hWnd, TB_GETBUTTONINFOW, static_cast<WPARAM>(id),
-                          reinterpret_cast<LPARAM>(info)) >= 0;
-}
-
-BOOL CToolBarCtrl::SetButtonSize(CSize size) {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TB_SETBUTTONSIZE, 0, MAKELPARAM(size.cx, size.cy)));
-}
-
-int CToolBarCtrl::HitTest(LPPOINT point) const {
-    return static_cast<int>(::SendMessageW(m_hWnd, TB_HITTEST, 0, reinterpret_cast<LPARAM>(point)));
+CString CToolBarCtrl::GetString(int nID) const {
+    CString text;
+    const int length = Ask(TB_GETBUTTONTEXTW, nID);
+    if (length > 0) {
+        const int stored = Ask(TB_GETBUTTONTEXTW, nID, text.GetBuffer(length));
+        text.ReleaseBuffer(stored < 0 ? 0 : stored);
+    }
+    return text;
 }

@@ -1,41 +1,63 @@
-#include "afxcmn.h"
+#include "afxctl_bars.h"
+#include "afxstat_.h"
 
 IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
-namespace {
+BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) {
+    return CWnd::CreateEx(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT,
+                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                          pParentWnd ? pParentWnd->m_hWnd : nullptr, nullptr);
+}
 
-TOOLINFOW ToolOf(CWnd* wnd, UINT_PTR id, bool wholeWindow) {
-    TOOLINFOW tool = {};
-    tool.cbSize = sizeof tool;
-    if (wholeWindow) {
-        tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-        tool.hwnd = ::GetParent(wnd->GetSafeHwnd());
-        tool.uId = reinterpret_cast<UINT_PTR>(wnd->GetSafeHwnd());
+void CToolTipCtrl::FillInToolInfo(TOOLINFO& ti, const CWnd* pWnd, UINT_PTR nIDTool) const {
+    ti = {};
+    ti.cbSize = sizeof ti;
+    const HWND hWnd = pWnd ? pWnd->m_hWnd : nullptr;
+    if (nIDTool == 0) {
+        ti.hwnd = ::GetParent(hWnd);
+        ti.uFlags = TTF_IDISHWND;
+        ti.uId = reinterpret_cast<UINT_PTR>(hWnd);
     } else {
-        tool.uFlags = TTF_SUBCLASS;
-        tool.hwnd = wnd->GetSafeHwnd();
-        tool.uId = id;
+        ti.hwnd = hWnd;
+        ti.uId = nIDTool;
     }
-    return tool;
 }
 
-} // namespace
-
-BOOL CToolTipCtrl::Create(CWnd* parent, DWORD style) {
-    return CWnd::CreateEx(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | style,
-                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent->GetSafeHwnd(),
-                          nullptr);
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UINT_PTR nIDTool) {
+    // A rectangle needs an id of its own, a whole window has none.
+    if (!pWnd || (lpRectTool != nullptr) != (nIDTool != 0))
+        return FALSE;
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    if (lpRectTool)
+        tool.rect = *lpRectTool;
+    tool.lpszText = const_cast<LPTSTR>(lpszText);
+    return static_cast<BOOL>(SendMessage(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool)));
 }
 
-BOOL CToolTipCtrl::AddTool(CWnd* wnd, LPCTSTR text, LPCRECT rect, UINT_PTR id) {
-    TOOLINFOW tool = ToolOf(wnd, id, !rect);
-    tool.lpszText = const_cast<wchar_t*>(text);
-    if (rect)
-        tool.rect = *rect;
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool)));
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool) {
+    constexpr UINT kLongestText = 1024;
+    wchar_t text[kLongestText];
+    return AfxLoadString(nIDText, text, kLongestText) > 0 && AddTool(pWnd, text, lpRectTool, nIDTool);
 }
 
-void CToolTipCtrl::DelTool(CWnd* wnd, UINT_PTR id) {
-    TOOLINFOW tool = ToolOf(wnd, id, id == 0);
-    ::SendMessageW(m_hWnd, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    SendMessage(TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.lpszText = const_cast<LPTSTR>(lpszText);
+    SendMessage(TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    if (lpRect)
+        tool.rect = *lpRect;
+    SendMessage(TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
 }

@@ -1,114 +1,142 @@
-#include "afxcmn.h"
+#include "afxctl_tree.h"
+
+#include <cstring>
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
 
 namespace {
 
-constexpr int kLongestText = 4096; // a tree shows at most 260 characters; more than that is never lost here
+constexpr int kFirstTextChars = 260;
+constexpr int kLongestTextChars = 1 << 16;
 
-template <class T> LPARAM Pointer(const T* value) {
-    return reinterpret_cast<LPARAM>(value);
+TVITEM ItemOf(HTREEITEM hItem, UINT mask) {
+    TVITEM item = {};
+    item.hItem = hItem;
+    item.mask = mask | TVIF_HANDLE;
+    return item;
 }
 
 } // namespace
 
-BOOL CTreeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    return CWnd::Create(WC_TREEVIEWW, nullptr, style, rect, parent, id);
+CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
+    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
+        Tree(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType), pImageList ? pImageList->m_hImageList : nullptr)));
 }
 
-HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCTW* insert) {
-    return reinterpret_cast<HTREEITEM>(::SendMessageW(m_hWnd, TVM_INSERTITEMW, 0, Pointer(insert)));
-}
-
-HTREEITEM CTreeCtrl::InsertItem(LPCTSTR text, HTREEITEM parent, HTREEITEM after) {
-    TVINSERTSTRUCTW insert = {};
-    insert.hParent = parent;
-    insert.hInsertAfter = after;
+HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {
+    TVINSERTSTRUCT insert = {};
+    insert.hParent = hParent;
+    insert.hInsertAfter = hInsertAfter;
     insert.item.mask = TVIF_TEXT;
-    insert.item.pszText = const_cast<wchar_t*>(text);
+    insert.item.pszText = const_cast<LPTSTR>(lpszItem);
     return InsertItem(&insert);
 }
 
-BOOL CTreeCtrl::GetItem(TVITEMW* item) const {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TVM_GETITEMW, 0, Pointer(item)));
+HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, int nImage, int nSelectedImage, HTREEITEM hParent,
+                                HTREEITEM hInsertAfter) {
+    TVINSERTSTRUCT insert = {};
+    insert.hParent = hParent;
+    insert.hInsertAfter = hInsertAfter;
+    insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    insert.item.pszText = const_cast<LPTSTR>(lpszItem);
+    insert.item.iImage = nImage;
+    insert.item.iSelectedImage = nSelectedImage;
+    return InsertItem(&insert);
 }
 
-BOOL CTreeCtrl::SetItem(const TVITEMW* item) {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TVM_SETITEMW, 0, Pointer(item)));
-}
-
-CString CTreeCtrl::GetItemText(HTREEITEM item) const {
+CString CTreeCtrl::GetItemText(HTREEITEM hItem) const {
     CString text;
-    TVITEMW query = {};
-    query.mask = TVIF_TEXT | TVIF_HANDLE;
-    query.hItem = item;
-    query.cchTextMax = kLongestText;
-    query.pszText = text.GetBuffer(kLongestText);
-    *query.pszText = L'\0';
-    const BOOL known = GetItem(&query);
-    text.ReleaseBuffer(known ? -1 : 0);
+    for (int chars = kFirstTextChars; chars <= kLongestTextChars; chars *= 4) {
+        TVITEM item = ItemOf(hItem, TVIF_TEXT);
+        item.cchTextMax = chars;
+        item.pszText = text.GetBuffer(chars);
+        *item.pszText = L'\0';
+        const BOOL known = GetItem(&item);
+        text.ReleaseBuffer(known ? -1 : 0);
+        if (text.GetLength() < chars - 1)
+            break;
+    }
     return text;
 }
 
-BOOL CTreeCtrl::SetItemText(HTREEITEM item, LPCTSTR text) {
-    TVITEMW change = {};
-    change.mask = TVIF_TEXT | TVIF_HANDLE;
-    change.hItem = item;
-    change.pszText = const_cast<wchar_t*>(text);
-    return SetItem(&change);
+BOOL CTreeCtrl::SetItemText(HTREEITEM hItem, LPCTSTR lpszItem) {
+    TVITEM item = ItemOf(hItem, TVIF_TEXT);
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    return SetItem(&item);
 }
 
-DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM item) const {
-    TVITEMW query = {};
-    query.mask = TVIF_PARAM | TVIF_HANDLE;
-    query.hItem = item;
-    return GetItem(&query) ? static_cast<DWORD_PTR>(query.lParam) : 0;
+DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM hItem) const {
+    TVITEM item = ItemOf(hItem, TVIF_PARAM);
+    return GetItem(&item) ? static_cast<DWORD_PTR>(item.lParam) : 0;
 }
 
-BOOL CTreeCtrl::SetItemData(HTREEITEM item, DWORD_PTR data) {
-    TVITEMW change = {};
-    change.mask = TVIF_PARAM | TVIF_HANDLE;
-    change.hItem = item;
-    change.lParam = static_cast<LPARAM>(data);
-    return SetItem(&change);
+BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, DWORD_PTR dwData) {
+    TVITEM item = ItemOf(hItem, TVIF_PARAM);
+    item.lParam = static_cast<LPARAM>(dwData);
+    return SetItem(&item);
 }
 
-UINT CTreeCtrl::GetItemState(HTREEITEM item, UINT mask) const {
-    return static_cast<UINT>(::SendMessageW(m_hWnd, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), mask));
+BOOL CTreeCtrl::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) const {
+    TVITEM item = ItemOf(hItem, TVIF_IMAGE | TVIF_SELECTEDIMAGE);
+    const BOOL known = GetItem(&item);
+    nImage = item.iImage;
+    nSelectedImage = item.iSelectedImage;
+    return known;
 }
 
-HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM item, UINT code) const {
-    return reinterpret_cast<HTREEITEM>(::SendMessageW(m_hWnd, TVM_GETNEXTITEM, code, Pointer(item)));
+BOOL CTreeCtrl::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
+    TVITEM item = ItemOf(hItem, TVIF_IMAGE | TVIF_SELECTEDIMAGE);
+    item.iImage = nImage;
+    item.iSelectedImage = nSelectedImage;
+    return SetItem(&item);
 }
 
-BOOL CTreeCtrl::Select(HTREEITEM item, UINT code) {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TVM_SELECTITEM, code, Pointer(item)));
+UINT CTreeCtrl::GetItemState(HTREEITEM hItem, UINT nStateMask) const {
+    TVITEM item = ItemOf(hItem, TVIF_STATE);
+    item.stateMask = nStateMask;
+    return GetItem(&item) ? item.state & nStateMask : 0;
 }
 
-BOOL CTreeCtrl::Expand(HTREEITEM item, UINT code) {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TVM_EXPAND, code, Pointer(item)));
+BOOL CTreeCtrl::SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask) {
+    TVITEM item = ItemOf(hItem, TVIF_STATE);
+    item.state = nState;
+    item.stateMask = nStateMask;
+    return SetItem(&item);
 }
 
-BOOL CTreeCtrl::EnsureVisible(HTREEITEM item) {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TVM_ENSUREVISIBLE, 0, Pointer(item)));
+BOOL CTreeCtrl::ItemHasChildren(HTREEITEM hItem) const {
+    TVITEM item = ItemOf(hItem, TVIF_CHILDREN);
+    return GetItem(&item) && item.cChildren != 0;
 }
 
-BOOL CTreeCtrl::SortChildren(HTREEITEM item) {
-    return static_cast<BOOL>(::SendMessageW(m_hWnd, TVM_SORTCHILDREN, 0, Pointer(item)));
+BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const {
+    static_assert(sizeof(RECT) >= sizeof(HTREEITEM));
+    std::memcpy(lpRect, &hItem, sizeof hItem); // the message takes the item there
+    return Tree(TVM_GETITEMRECT, static_cast<WPARAM>(bTextOnly), lpRect) != nullptr;
 }
 
-BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const {
-    // The message takes the item in the rectangle that it fills.
-    *reinterpret_cast<HTREEITEM*>(rect) = item;
-    return static_cast<BOOL>(
-        ::SendMessageW(m_hWnd, TVM_GETITEMRECT, static_cast<WPARAM>(textOnly), Pointer(rect)));
+HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const {
+    TVHITTESTINFO hit = {};
+    hit.pt = pt;
+    const HTREEITEM item = HitTest(&hit);
+    if (pFlags)
+        *pFlags = hit.flags;
+    return item;
 }
 
-HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* hit) const {
-    return reinterpret_cast<HTREEITEM>(::SendMessageW(m_hWnd, TVM_HITTEST, 0, Pointer(hit)));
+CEdit* CTreeCtrl::EditLabel(HTREEITEM hItem) {
+    return static_cast<CEdit*>(FromHandle(reinterpret_cast<HWND>(Tree(TVM_EDITLABELW, 0, hItem))));
 }
 
-HIMAGELIST CTreeCtrl::SetImageList(HIMAGELIST images, int kind) {
-    return reinterpret_cast<HIMAGELIST>(
-        ::SendMessageW(m_hWnd, TVM_SETIMAGELIST, static_cast<WPARAM>(kind), Pointer(images)));
+CEdit* CTreeCtrl::GetEditControl() const {
+    return static_cast<CEdit*>(FromHandle(reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL))));
+}
+
+CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem) {
+    const auto handle = reinterpret_cast<HIMAGELIST>(Tree(TVM_CREATEDRAGIMAGE, 0, hItem));
+    if (!handle)
+        return nullptr;
+    auto* const list = new CImageList;
+    list->Attach(handle);
+    return list;
 }

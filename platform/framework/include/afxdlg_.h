@@ -70,14 +70,13 @@ class AFXFRAME_API CDialog : public CWnd {
     // Owner of the modal run, disabled if it was not so already; and back.
     HWND PreModal();
     void PostModal();
-    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
-    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
 
   private:
+    bool m_bCentre = false; // the template leaves the place to the framework
+
     BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, HWND hWndParent, HINSTANCE hInst);
-    INT_PTR RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst);
     DECLARE_MESSAGE_MAP()
 };

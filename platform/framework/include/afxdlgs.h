@@ -53,20 +53,13 @@ class AFXFRAME_API CFileDialog : public CCommonDialog {
     CString GetNextPathName(POSITION& pos) const;
 
     // ---- While the dialog runs; nothing otherwise. nID: a control of the system's dialog.
-    void SetControlText(int nID, LPCSTR lpsz);
-    void SetControlText(int nID, LPCWSTR lpsz);
+    void SetControlText(int nID, LPCTSTR lpsz);
     void HideControl(int nID);
-    void SetDefExt(LPCSTR lpsz);
-    // The dialog's own template, shown inside the system's dialog. Set before DoModal.
-    void SetTemplate(UINT nWin3ID, UINT nWin4ID) {
-        SetTemplate(MAKEINTRESOURCEW(nWin3ID), MAKEINTRESOURCEW(nWin4ID));
-    }
-    void SetTemplate(LPCTSTR lpWin3ID, LPCTSTR lpWin4ID);
+    void SetDefExt(LPCTSTR lpsz);
 
   protected:
     // ---- Notifications. OnFileNameOK: nonzero keeps the dialog open. OnShareViolation: OFN_SHARE*.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     virtual UINT OnShareViolation(LPCTSTR lpszPathName);
     virtual BOOL OnFileNameOK();
     virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
@@ -78,13 +71,13 @@ class AFXFRAME_API CFileDialog : public CCommonDialog {
 
   private:
     static UINT_PTR CALLBACK HookProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleLBSelChanged(WPARAM wParam, LPARAM lParam);
     CString AskDialog(UINT message) const;
-    CString FirstResultName() const;
-    void PrepareFilter(LPCTSTR lpszFilter);
 
     static constexpr int kNameBufferChars = 32768;
-    CString m_strFilter;
+    CString m_strFilter; // with NULs for bars
     CString m_strDefExt;
     LPTSTR m_pszNameBuffer; // what lpstrFile points to unless the caller sets another buffer
     TCHAR m_szFileTitle[MAX_PATH];
+    DECLARE_MESSAGE_MAP()
 };

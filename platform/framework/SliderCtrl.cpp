@@ -1,0 +1,3 @@
+#include "afxctl_bars.h"
+
+IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)

@@ -1,0 +1,133 @@
+// The procedure of all windows that have an object, and the connection of objects to windows being created.
+#include "ThreadState.h"
+#include "afxapp_.h"
+#include "afximagelist.h"
+
+#include <cwchar>
+
+namespace {
+
+// What the system gets for a message whose handler threw.
+LRESULT AnswerAfterException(const MSG& message) {
+    if (message.message == WM_CREATE)
+        return -1; // the creation fails
+    if (message.message == WM_PAINT)
+        ::ValidateRect(message.hwnd, nullptr); // else the message would come for ever
+    return 0;
+}
+
+LRESULT OnFrameworkException(AfxThreadState& state, CException* e) noexcept {
+    const MSG message = state.currentMessage;
+    LRESULT result = AnswerAfterException(message);
+    try {
+        if (state.thread)
+            result = state.thread->ProcessWndProcException(e, &message);
+        else if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
+            e->ReportError(MB_OK | MB_ICONSTOP);
+        e->Delete();
+    } catch (...) {
+        ::OutputDebugStringW(L"AfxFrame: reporting an exception failed\n");
+    }
+    return result;
+}
+
+// A window that is gone must not stay connected, whatever its handlers did.
+void ForgetDestroyed(AfxThreadState& state, HWND hWnd) {
+    state.orphanProcedures.erase(hWnd);
+    if (CWnd* const pWnd = state.permanentWindows.Find(hWnd))
+        pWnd->Detach();
+}
+
+bool IsInputMethodClass(const wchar_t* className) {
+    return !IS_INTRESOURCE(className) && _wcsicmp(className, L"IME") == 0;
+}
+
+LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
+    AfxThreadState& state = AfxThreadState::Get();
+    const LRESULT result = ::CallNextHookEx(nullptr, code, wParam, lParam);
+    if (code != HCBT_CREATEWND || !state.creatingWnd)
+        return result;
+    if (IsInputMethodClass(reinterpret_cast<const CBT_CREATEWND*>(lParam)->lpcs->lpszClass))
+        return result; // the system's helper window, made along with a thread's first window
+    CWnd* const pWnd = std::exchange(state.creatingWnd, nullptr);
+    try {
+        pWnd->SubclassWindow(reinterpret_cast<HWND>(wParam));
+    } catch (...) {
+        ::OutputDebugStringW(L"AfxFrame: a window object refused its window\n");
+    }
+    return result;
+}
+
+} // namespace
+
+LRESULT AfxCallWndProc(AfxThreadState& state, CWnd* pWnd, HWND hWnd, UINT message, WPARAM wParam,
+                       LPARAM lParam) {
+    const MSG outer = state.currentMessage;
+    state.currentMessage.hwnd = hWnd;
+    state.currentMessage.message = message;
+    state.currentMessage.wParam = wParam;
+    state.currentMessage.lParam = lParam;
+    LRESULT result = 0;
+    try {
+        result = AfxWndAccess::Call(pWnd, message, wParam, lParam);
+    } catch (CException* e) {
+        result = OnFrameworkException(state, e);
+    } catch (const std::exception& e) {
+        ::OutputDebugStringA(e.what());
+        result = AnswerAfterException(state.currentMessage);
+    } catch (...) {
+        ::OutputDebugStringW(L"AfxFrame: a message handler threw an unknown exception\n");
+        result = AnswerAfterException(state.currentMessage);
+    }
+    state.currentMessage = outer;
+    return result;
+}
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
+    AfxThreadState& state = AfxThreadState::Get();
+    LRESULT result = 0;
+    if (CWnd* const pWnd = state.permanentWindows.Find(hWnd)) {
+        result = AfxCallWndProc(state, pWnd, hWnd, nMsg, wParam, lParam);
+    } else {
+        const auto orphan = state.orphanProcedures.find(hWnd);
+        result = orphan != state.orphanProcedures.end()
+                     ? ::CallWindowProcW(orphan->second, hWnd, nMsg, wParam, lParam)
+                     : ::DefWindowProcW(hWnd, nMsg, wParam, lParam);
+    }
+    if (nMsg == WM_NCDESTROY)
+        ForgetDestroyed(state, hWnd);
+    return result;
+}
+
+bool AfxHookWindowCreate(CWnd* pWnd) {
+    AfxThreadState& state = AfxThreadState::Get();
+    state.creatingWnd = pWnd;
+    if (!state.creationHook)
+        state.creationHook =
+            ::SetWindowsHookExW(WH_CBT, CreationHook, AfxGetInstanceHandle(), ::GetCurrentThreadId());
+    return state.creationHook != nullptr;
+}
+
+bool AfxUnhookWindowCreate() {
+    AfxThreadState& state = AfxThreadState::Get();
+    if (HHOOK const hook = std::exchange(state.creationHook, nullptr))
+        ::UnhookWindowsHookEx(hook);
+    return std::exchange(state.creatingWnd, nullptr) == nullptr;
+}
+
+void AfxInitControls() {
+    static const bool done = [] {
+        INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_WIN95_CLASSES | ICC_USEREX_CLASSES |
+                                                            ICC_COOL_CLASSES | ICC_STANDARD_CLASSES};
+        return ::InitCommonControlsEx(&classes) != FALSE;
+    }();
+    static_cast<void>(done);
+}
+
+void AfxDeleteTempObjects() {
+    CWnd::DeleteTempMap();
+    CDC::DeleteTempMap();
+    CGdiObject::DeleteTempMap();
+    CMenu::DeleteTempMap();
+    CImageList::DeleteTempMap();
+}
