@@ -41,7 +41,8 @@ const Fixture kFixtures[] = {
     {L"ag-psd-groups.psd", kNested},
     {L"ag-psd-groups.psb", kNested},
     {L"ag-psd-adjustments.psd", {L"Photo", L"Curve", L"\u53CD\u76F8", L"Levels", L"Masked"}},
-    {L"ag-psd-flat.psd", {}},
+    {L"ag-psd-negative-count.psd", {L""}}, // one layer without a name
+    {L"imagemagick-palette.psd", {L"L1"}},
     {L"imagemagick-16.psd", {L"Sixteen", L"Bits"}},
     {L"imagemagick.psb", {L"Large", L"Document"}},
 };
