@@ -132,6 +132,33 @@ TEST_F(Profile, AValueBeyondTheLimitIsNotRead) {
     EXPECT_EQ(get(L"S", L"k"), L"(none)");
 }
 
+TEST_F(Profile, AnUnreadableSectionGivesTheDefault) {
+    ASSERT_TRUE(QV_WriteProfileString(L"S", L"k", L"v"));
+    const std::wstring path = m_root + L"\\Profile\\S";
+    HKEY key = nullptr;
+    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, WRITE_DAC, &key), ERROR_SUCCESS);
+    SECURITY_DESCRIPTOR locked{};
+    ACL nobody{};
+    InitializeSecurityDescriptor(&locked, SECURITY_DESCRIPTOR_REVISION);
+    InitializeAcl(&nobody, sizeof(nobody), ACL_REVISION);
+    SetSecurityDescriptorDacl(&locked, TRUE, &nobody, FALSE);
+    RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, &locked);
+    HKEY opened = nullptr;
+    const bool isEnforced =
+        RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS;
+    const std::wstring value = get(L"S", L"k");
+    const BOOL written = QV_WriteProfileString(L"S", L"k", L"other");
+    if (opened != nullptr)
+        RegCloseKey(opened);
+    SetSecurityDescriptorDacl(&locked, TRUE, nullptr, FALSE);
+    RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, &locked);
+    RegCloseKey(key);
+    if (!isEnforced)
+        GTEST_SKIP() << "this platform does not keep anybody from reading a key";
+    EXPECT_EQ(value, L"(none)");
+    EXPECT_FALSE(written);
+}
+
 TEST_F(Profile, RootIsTheHosts) {
     const std::wstring other = m_root + L"\\Other";
     EXPECT_TRUE(QV_WriteProfileString(L"S", L"k", L"first"));
