@@ -4,8 +4,16 @@
 
 namespace _qv_commonctrl {
 
+namespace {
+
+bool IsOwnThreads(HWND wnd) {
+    return wnd && GetWindowThreadProcessId(wnd, nullptr) == GetCurrentThreadId();
+}
+
+} // namespace
+
 BOOL QV_ReplaceWnd(HWND wnd) {
-    if (!wnd || GetWindowThreadProcessId(wnd, nullptr) != GetCurrentThreadId())
+    if (!IsOwnThreads(wnd))
         return FALSE;
     try {
         return ScrollSkin::Find(wnd) || ScrollSkin::Attach(wnd);
@@ -15,16 +23,16 @@ BOOL QV_ReplaceWnd(HWND wnd) {
 }
 
 BOOL QV_UnReplaceWnd(HWND wnd) {
-    ScrollSkin* const skin = ScrollSkin::Find(wnd);
-    if (!skin || GetWindowThreadProcessId(wnd, nullptr) != GetCurrentThreadId())
+    ScrollSkin* const skin = IsOwnThreads(wnd) ? ScrollSkin::Find(wnd) : nullptr;
+    if (!skin)
         return FALSE;
     skin->Detach();
     return TRUE;
 }
 
 BOOL QV_GetReplaceData(HWND wnd, QVReplaceData& data) {
-    ScrollSkin* const skin = ScrollSkin::Find(wnd);
-    if (!skin || GetWindowThreadProcessId(wnd, nullptr) != GetCurrentThreadId())
+    ScrollSkin* const skin = IsOwnThreads(wnd) ? ScrollSkin::Find(wnd) : nullptr;
+    if (!skin)
         return FALSE;
     skin->Describe(data);
     return TRUE;

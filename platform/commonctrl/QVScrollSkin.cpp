@@ -20,6 +20,12 @@ UINT SynchroniseMessage() {
     return message;
 }
 
+// The subclass procedure answers it with its object.
+UINT WhoMessage() {
+    static const UINT message = RegisterWindowMessageW(L"QVCommonCtrlU.ScrollSkin");
+    return message;
+}
+
 // Windows by handle; only the thread of a window touches its entry.
 std::map<HWND, ScrollSkin*>& Registry() {
     static std::map<HWND, ScrollSkin*> registry;
@@ -73,13 +79,18 @@ ScrollSkin* ScrollSkin::Find(HWND wnd) {
     const auto found = Registry().find(wnd);
     if (found == Registry().end())
         return nullptr;
-    DWORD_PTR data = 0;
-    if (IsWindow(wnd) && GetWindowSubclass(wnd, &ScrollSkin::SubclassProc, kSubclassId, &data) &&
-        data == reinterpret_cast<DWORD_PTR>(found->second))
-        return found->second;
+    ScrollSkin* const skin = found->second;
+    if (IsWindow(wnd) && SendMessageW(wnd, WhoMessage(), 0, 0) == reinterpret_cast<LRESULT>(skin))
+        return skin;
     // Somebody has put another procedure in place of the whole chain, so the end of the window went unseen.
-    delete found->second;
+    if (IsAttached(wnd, skin))
+        delete skin;
     return nullptr;
+}
+
+bool ScrollSkin::IsAttached(HWND wnd, const ScrollSkin* skin) {
+    const auto found = Registry().find(wnd);
+    return found != Registry().end() && found->second == skin;
 }
 
 ScrollSkin* ScrollSkin::Attach(HWND wnd) {
@@ -157,6 +168,8 @@ LRESULT CALLBACK ScrollSkin::SubclassProc(HWND wnd, UINT message, WPARAM wParam,
 
 LRESULT ScrollSkin::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND wnd = m_wnd;
+    if (message == WhoMessage())
+        return reinterpret_cast<LRESULT>(this);
     if (message == SynchroniseMessage()) {
         m_synchroniseAsked = false;
         Synchronise();
@@ -174,7 +187,7 @@ LRESULT ScrollSkin::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         OnNcMouseMove(wParam, lParam);
     const LRESULT result = DefSubclassProc(wnd, message, wParam, lParam);
     const Effect effect = EffectOf(message);
-    if (effect == Effect::None || Find(wnd) != this) // the message may have ended the window
+    if (effect == Effect::None || !IsAttached(wnd, this)) // the message may have ended the window
         return result;
     if (effect == Effect::Now)
         Synchronise();
@@ -190,7 +203,7 @@ LRESULT ScrollSkin::OnNcButtonDown(Bar& bar, UINT message, WPARAM wParam, LPARAM
     bar.pressed = PartAt(bar, CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))));
     Synchronise();
     const LRESULT result = DefSubclassProc(wnd, message, wParam, lParam);
-    if (Find(wnd) == this) {
+    if (IsAttached(wnd, this)) {
         bar.pressed = ScrollPart::None;
         Synchronise();
     }

@@ -13,7 +13,7 @@ class ScrollSkin {
   public:
     // Null when the window cannot be subclassed (another thread's).
     static ScrollSkin* Attach(HWND wnd);
-    // The object of a window; null when it has none.
+    // The object of a window of the calling thread; null when it has none.
     static ScrollSkin* Find(HWND wnd);
     // Shows every replaced window of the calling thread with the present skin.
     static void RefreshAll();
@@ -39,6 +39,7 @@ class ScrollSkin {
     explicit ScrollSkin(HWND wnd);
     ~ScrollSkin();
 
+    static bool IsAttached(HWND wnd, const ScrollSkin* skin); // FALSE once the object is gone
     static LRESULT CALLBACK SubclassProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                          DWORD_PTR self);
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);

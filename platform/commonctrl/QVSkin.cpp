@@ -1,8 +1,10 @@
 #include "QVSkin.h"
 
+#include "QVScrollSkin.h"
 #include "QVSkinBroadcast.h"
 #include "QVSkinFont.h"
 #include "QVSkinImage.h"
+#include "QVSkinPicture.h"
 #include "QVSkinStore.h"
 
 #include <algorithm>
@@ -67,7 +69,9 @@ BOOL QV_SetSkinPath(LPCWSTR folder) {
         chosen = SkinStore::Get().Select(folder ? folder : L"");
     } catch (const std::exception&) { // memory ran out: what was read stays
     }
+    DropSkinPictures();
     QV_BroadcastSkinChange();
+    ScrollSkin::RefreshAll();
     return chosen;
 }
 
