@@ -228,13 +228,23 @@ LPWSTR CString::Allocate(int nCapacity) {
     return text;
 }
 
-// Grows by half, so that a text built unit by unit is copied a constant number of times on average.
+// Doubles, so that a text built unit by unit is copied a constant number of times on average.
 int CString::GrownCapacity(int nOld, int nNeeded) noexcept {
     constexpr int kGranularity = 8; // units; blocks end on the heap's own granularity
-    const long long grown = static_cast<long long>(nOld) + nOld / 2;
+    const long long grown = 2LL * nOld;
     long long wanted = grown > nNeeded ? grown : nNeeded;
     wanted = (wanted + kGranularity) / kGranularity * kGranularity - 1;
     return wanted < INT_MAX ? static_cast<int>(wanted) : INT_MAX - 1;
+}
+
+// More room for a text that has one owner, in place where the heap allows it.
+void CString::Grow(int nCapacity) {
+    const size_t bytes = sizeof(Header) + (static_cast<size_t>(nCapacity) + 1) * sizeof(WCHAR);
+    Header* const head = static_cast<Header*>(std::realloc(Head(m_pszData), bytes));
+    if (!head)
+        AfxThrowMemoryException();
+    head->capacity = nCapacity;
+    m_pszData = reinterpret_cast<LPWSTR>(head + 1);
 }
 
 bool CString::IsShared() const noexcept {

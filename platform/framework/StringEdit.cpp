@@ -61,7 +61,15 @@ void CString::Splice(int iIndex, int nRemoved, LPCWSTR psz, int nInserted) {
     const ULONG_PTR source = reinterpret_cast<ULONG_PTR>(psz);
     const bool isInside = source >= begin && source <= begin + static_cast<size_t>(length) * sizeof(WCHAR);
     const bool isAppend = nRemoved == 0 && tail == 0;
-    if (IsShared() || newLength > GetAllocLength() || (isInside && nInserted > 0 && !isAppend)) {
+    if (isAppend && !IsShared()) {
+        const size_t offset = (source - begin) / sizeof(WCHAR);
+        if (newLength > GetAllocLength())
+            Grow(GrownCapacity(GetAllocLength(), newLength));
+        CopyChars(m_pszData + iIndex, isInside ? m_pszData + offset : psz, nInserted);
+        SetLengthUnchecked(newLength);
+        return;
+    }
+    if (IsShared() || newLength > GetAllocLength() || (isInside && nInserted > 0)) {
         CString fresh;
         fresh.GetBuffer(isAppend ? GrownCapacity(GetAllocLength(), newLength) : newLength);
         CopyChars(fresh.m_pszData, m_pszData, iIndex);
@@ -97,11 +105,6 @@ CString& CString::operator+=(LPCWSTR psz) {
 
 CString& CString::operator+=(LPCSTR psz) {
     return *this += CString(psz);
-}
-
-CString& CString::operator+=(WCHAR ch) {
-    Append(&ch, 1);
-    return *this;
 }
 
 CString& CString::operator+=(char ch) {

@@ -190,8 +190,43 @@ void TextFormatter::PutInteger(WCHAR letter, const Field& field, va_list* pArgs)
                          : static_cast<long long>(static_cast<unsigned char>(value));
     else if (!isWide && !isSigned)
         value = static_cast<unsigned int>(value);
-    const char spec[] = {'l', 'l', static_cast<char>(letter), '\0'};
-    PutNumber(spec, field, value);
+    const bool isNegative = isSigned && value < 0;
+    const unsigned long long bits = static_cast<unsigned long long>(value);
+    PutDigits(letter, field, isNegative, isNegative ? 0 - bits : bits);
+}
+
+void TextFormatter::PutDigits(WCHAR letter, const Field& field, bool isNegative,
+                              unsigned long long magnitude) {
+    constexpr int kMostDigits = 22; // octal
+    const unsigned base = letter == L'o' ? 8 : letter == L'x' || letter == L'X' ? 16 : 10;
+    LPCWSTR const symbols = letter == L'x' ? L"0123456789abcdef" : L"0123456789ABCDEF";
+    WCHAR digits[kMostDigits];
+    int count = 0;
+    for (unsigned long long rest = magnitude; rest != 0; rest /= base)
+        digits[kMostDigits - ++count] = symbols[rest % base];
+    CString prefix;
+    if (letter == L'd' || letter == L'i')
+        prefix = isNegative ? L"-" : field.hasPlus ? L"+" : field.hasSpace ? L" " : L"";
+    else if (field.hasHash && base == 16 && magnitude != 0)
+        prefix = letter == L'x' ? L"0x" : L"0X";
+    int zeros = (field.precision < 0 ? 1 : field.precision) - count;
+    if (field.hasHash && base == 8 && zeros <= 0)
+        zeros = 1;
+    const int padding = field.width - prefix.GetLength() - count - (zeros > 0 ? zeros : 0);
+    if (field.isZero && !field.isLeft && field.precision < 0 && padding > 0)
+        zeros = (zeros > 0 ? zeros : 0) + padding;
+    else if (!field.isLeft)
+        PutRepeated(L' ', padding);
+    m_result += prefix;
+    PutRepeated(L'0', zeros);
+    m_result.Append(digits + kMostDigits - count, count);
+    if (field.isLeft)
+        PutRepeated(L' ', padding);
+}
+
+void TextFormatter::PutRepeated(WCHAR ch, int nCount) {
+    if (nCount > 0)
+        m_result += CString(ch, nCount);
 }
 
 void TextFormatter::PutFloat(WCHAR letter, const Field& field, va_list* pArgs) {
@@ -207,9 +242,7 @@ void TextFormatter::PutFloat(WCHAR letter, const Field& field, va_list* pArgs) {
 void TextFormatter::PutPointer(const Field& field, va_list* pArgs) {
     Field whole = field;
     whole.precision = static_cast<int>(sizeof(void*)) * 2; // all hexadecimal digits
-    whole.isZero = false;
-    PutNumber("llX", whole,
-              static_cast<unsigned long long>(reinterpret_cast<ULONG_PTR>(va_arg(*pArgs, void*))));
+    PutDigits(L'X', whole, false, reinterpret_cast<ULONG_PTR>(va_arg(*pArgs, void*)));
 }
 
 void TextFormatter::PutText(bool isWide, const Field& field, va_list* pArgs) {
@@ -241,12 +274,11 @@ void TextFormatter::PutUnit(bool isWide, const Field& field, va_list* pArgs) {
 
 void TextFormatter::PutPadded(LPCWSTR psz, int nLength, const Field& field) {
     const int padding = field.width > nLength ? field.width - nLength : 0;
-    const CString spaces(field.isZero && !field.isLeft ? L'0' : L' ', padding);
     if (!field.isLeft)
-        m_result += spaces;
+        PutRepeated(field.isZero ? L'0' : L' ', padding);
     m_result.Append(psz, nLength);
     if (field.isLeft)
-        m_result += spaces;
+        PutRepeated(L' ', padding);
 }
 
 template <class Value>

@@ -3,8 +3,8 @@
 
 #include "afxstr.h"
 
-// Walks a format once. Numbers are written by the C run-time from a conversion that is rebuilt here, so that
-// sizes mean the same whatever run-time is below; texts and units are placed here.
+// Walks a format once. Integers, texts and units are written here; floating-point numbers by the C
+// run-time.
 class TextFormatter {
   public:
     explicit TextFormatter(CString& result) : m_result(result) {}
@@ -32,10 +32,12 @@ class TextFormatter {
     static LPCWSTR ReadSize(LPCWSTR psz, Field& field);
     bool Convert(WCHAR letter, const Field& field, va_list* pArgs);
     void PutInteger(WCHAR letter, const Field& field, va_list* pArgs);
+    void PutDigits(WCHAR letter, const Field& field, bool isNegative, unsigned long long magnitude);
     void PutFloat(WCHAR letter, const Field& field, va_list* pArgs);
     void PutPointer(const Field& field, va_list* pArgs);
     void PutText(bool isWide, const Field& field, va_list* pArgs);
     void PutUnit(bool isWide, const Field& field, va_list* pArgs);
+    void PutRepeated(WCHAR ch, int nCount);
     void PutPadded(LPCWSTR psz, int nLength, const Field& field);
     template <class Value> void PutNumber(const char* pszSizeAndLetter, const Field& field, Value value);
 

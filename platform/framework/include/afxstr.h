@@ -85,7 +85,16 @@ class AFXFRAME_API CString {
     CString& operator+=(const CString& str);
     CString& operator+=(LPCWSTR psz);
     CString& operator+=(LPCSTR psz);
-    CString& operator+=(WCHAR ch);
+    CString& operator+=(WCHAR ch) {
+        Header* const head = Head(m_pszData);
+        if (__atomic_load_n(&head->refs, __ATOMIC_ACQUIRE) != 1 || head->length >= head->capacity) {
+            Append(&ch, 1);
+            return *this;
+        }
+        m_pszData[head->length] = ch;
+        m_pszData[++head->length] = L'\0';
+        return *this;
+    }
     CString& operator+=(char ch);
     void Append(LPCWSTR psz);
     void Append(LPCWSTR psz, int nLength); // may lie inside this text
@@ -208,6 +217,7 @@ class AFXFRAME_API CString {
     static void Free(Header* head) noexcept;
     static LPWSTR Allocate(int nCapacity);
     static int GrownCapacity(int nOld, int nNeeded) noexcept;
+    void Grow(int nCapacity);
 
     bool IsShared() const noexcept;
     void Reserve(int nCapacity); // private buffer with at least this room, text kept

@@ -4,8 +4,12 @@
 #include <climits>
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace {
+
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+#pragma GCC diagnostic ignored "-Wformat-security"
 
 template <class... Args> CString Formatted(LPCWSTR format, Args... args) {
     CString text = L"former";
@@ -39,6 +43,29 @@ TEST(StringFormat, SizesOfIntegers) {
     EXPECT_TRUE(SameText(L"12345678901 5", Formatted(L"%Id %Iu", 12345678901LL, size_t{5})));
     EXPECT_TRUE(SameText(L"12345678901 -3 9", Formatted(L"%zd %td %jd", 12345678901LL, -3LL, 9LL)));
     EXPECT_TRUE(SameText(L"1 2 3", Formatted(L"%lld %d %I64d", 1LL, 2, 3LL))) << "each takes its own size";
+}
+
+// Every mixture of flags, width and precision, against the C run-time. Signs and blanks are of signed conversions
+// only; what run-times do with them elsewhere differs.
+TEST(StringFormat, IntegersAgreeWithTheRunTime) {
+    const std::string flags[] = {"", "-", "0", "#", "-0", "#0", "-#", "+", " ", "+0", "- ", "+ ", "-+0"};
+    constexpr size_t kFlagsForAll = 7;
+    const long long values[] = {0, 1, -1, 8, 255, -4096, LLONG_MAX, LLONG_MIN};
+    const std::string letters = "diuoxX";
+    int compared = 0;
+    for (size_t flag = 0; flag < std::size(flags); ++flag)
+        for (const char* width : {"", "1", "5", "30"})
+            for (const char* precision : {"", ".", ".0", ".1", ".7", ".25"})
+                for (const char letter : flag < kFlagsForAll ? letters : letters.substr(0, 2))
+                    for (const long long value : values) {
+                        const std::string format = "%" + flags[flag] + width + precision + "ll" + letter;
+                        char expected[64];
+                        snprintf(expected, sizeof(expected), format.c_str(), value);
+                        ASSERT_TRUE(SameText(CString(expected), Formatted(CString(format.c_str()), value)))
+                            << format;
+                        ++compared;
+                    }
+    EXPECT_EQ((7 * 6 + 6 * 2) * 4 * 6 * 8, compared);
 }
 
 TEST(StringFormat, Floats) {
