@@ -58,6 +58,8 @@ TEST(StringFormat, IntegersAgreeWithTheRunTime) {
             for (const char* precision : {"", ".", ".0", ".1", ".7", ".25"})
                 for (const char letter : flag < kFlagsForAll ? letters : letters.substr(0, 2))
                     for (const long long value : values) {
+                        if (value == 0 && letter == 'o' && flags[flag].find('#') != std::string::npos)
+                            continue; // the run-time here loses the single zero
                         const std::string format = "%" + flags[flag] + width + precision + "ll" + letter;
                         char expected[64];
                         snprintf(expected, sizeof(expected), format.c_str(), value);
@@ -65,7 +67,8 @@ TEST(StringFormat, IntegersAgreeWithTheRunTime) {
                             << format;
                         ++compared;
                     }
-    EXPECT_EQ((7 * 6 + 6 * 2) * 4 * 6 * 8, compared);
+    EXPECT_EQ(((7 * 6 + 6 * 2) * 8 - 3) * 4 * 6, compared);
+    EXPECT_TRUE(SameText(L"0 0 07", Formatted(L"%#o %#.0o %#o", 0, 0, 7)));
 }
 
 TEST(StringFormat, Floats) {
