@@ -2,7 +2,8 @@
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 
-CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<LPCTSTR>(nullptr), pParentWnd) {}
+CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<LPCTSTR>(nullptr), pParentWnd) {
+}
 
 // The system's dialog ends itself.
 void CCommonDialog::OnOK() {

@@ -38,8 +38,8 @@ TemplateHeader ReadHeader(LPCDLGTEMPLATE lpTemplate) {
     if (words[1] != kExtendedMark)
         return {lpTemplate->style, lpTemplate->x, lpTemplate->y};
     // version, mark, help id, extended style (2 words each for the latter two), style, item count, x, y
-    return {static_cast<DWORD>(words[6]) | (static_cast<DWORD>(words[7]) << 16),
-            static_cast<short>(words[9]), static_cast<short>(words[10])};
+    return {static_cast<DWORD>(words[6]) | (static_cast<DWORD>(words[7]) << 16), static_cast<short>(words[9]),
+            static_cast<short>(words[10])};
 }
 
 // Where a dialog stands: a template that says no place of its own is centred over the owner.
@@ -53,10 +53,12 @@ bool WantsCentre(const TemplateHeader& header) {
 CDialog::CDialog() = default;
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
-    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {
+}
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
-    : m_lpszTemplateName(MAKEINTRESOURCEW(nIDTemplate)), m_pParentWnd(pParentWnd) {}
+    : m_lpszTemplateName(MAKEINTRESOURCEW(nIDTemplate)), m_pParentWnd(pParentWnd) {
+}
 
 CDialog::~CDialog() {
     if (m_hWnd && CWnd::FromHandlePermanent(m_hWnd) == this)

@@ -3,7 +3,8 @@
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CUserException, CException)
 
-CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
+CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {
+}
 
 void CException::Delete() {
     if (m_bAutoDelete)
@@ -26,7 +27,8 @@ int CException::ReportError(UINT nType, UINT nMessageID) {
     return nMessageID ? AfxMessageBox(nMessageID, nType) : 0;
 }
 
-CUserException::CUserException(BOOL bAutoDelete) : CException(bAutoDelete) {}
+CUserException::CUserException(BOOL bAutoDelete) : CException(bAutoDelete) {
+}
 
 void AFXAPI AfxThrowUserException() {
     throw new CUserException;

@@ -41,8 +41,9 @@ template <class NODE> void Append(NODE*& head, NODE* tail) {
 // Takes back what was put aside for the module; the classes registered meanwhile are in the state's list.
 bool PopSaved(HINSTANCE hInstance, SavedLists& found) {
     auto& saved = Saved();
-    const auto at = std::find_if(saved.rbegin(), saved.rend(),
-                                 [hInstance](const SavedLists& entry) { return entry.hInstance == hInstance; });
+    const auto at = std::find_if(saved.rbegin(), saved.rend(), [hInstance](const SavedLists& entry) {
+        return entry.hInstance == hInstance;
+    });
     if (at == saved.rend())
         return false;
     found = *at;

@@ -54,7 +54,8 @@ BOOL CFileDialog::OnFileNameOK() {
     return FALSE;
 }
 
-void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT) {}
+void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT) {
+}
 
 LRESULT CFileDialog::HandleLBSelChanged(WPARAM wParam, LPARAM lParam) {
     OnLBSelChangedNotify(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));

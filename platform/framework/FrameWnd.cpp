@@ -26,8 +26,8 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     const bool isDefault = rect.left == CW_USEDEFAULT;
     const int width = isDefault ? CW_USEDEFAULT : rect.right - rect.left;
     const int height = isDefault ? CW_USEDEFAULT : rect.bottom - rect.top;
-    const BOOL created = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, width,
-                                  height, pParentWnd ? pParentWnd->m_hWnd : nullptr, menu, pContext);
+    const BOOL created = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
+                                  width, height, pParentWnd ? pParentWnd->m_hWnd : nullptr, menu, pContext);
     if (!created && menu)
         ::DestroyMenu(menu);
     return created;

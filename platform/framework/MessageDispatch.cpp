@@ -34,18 +34,42 @@ template <class T> T L(const Call& call) {
     else
         return static_cast<T>(call.l);
 }
-template <class T> T LoW(const Call& call) { return static_cast<T>(LOWORD(call.w)); }
-template <class T> T HiW(const Call& call) { return static_cast<T>(HIWORD(call.w)); }
-template <class T> T LoL(const Call& call) { return static_cast<T>(LOWORD(call.l)); }
-template <class T> T HiL(const Call& call) { return static_cast<T>(HIWORD(call.l)); }
-int SignedLoL(const Call& call) { return static_cast<short>(LOWORD(call.l)); }
-int SignedHiL(const Call& call) { return static_cast<short>(HIWORD(call.l)); }
-CPoint PointL(const Call& call) { return CPoint(SignedLoL(call), SignedHiL(call)); }
-CWnd* WndW(const Call& call) { return CWnd::FromHandle(reinterpret_cast<HWND>(call.w)); }
-CWnd* WndL(const Call& call) { return CWnd::FromHandle(reinterpret_cast<HWND>(call.l)); }
-CMenu* MenuW(const Call& call) { return CMenu::FromHandle(reinterpret_cast<HMENU>(call.w)); }
-CScrollBar* BarL(const Call& call) { return static_cast<CScrollBar*>(WndL(call)); }
-CListBox* ListL(const Call& call) { return static_cast<CListBox*>(WndL(call)); }
+template <class T> T LoW(const Call& call) {
+    return static_cast<T>(LOWORD(call.w));
+}
+template <class T> T HiW(const Call& call) {
+    return static_cast<T>(HIWORD(call.w));
+}
+template <class T> T LoL(const Call& call) {
+    return static_cast<T>(LOWORD(call.l));
+}
+template <class T> T HiL(const Call& call) {
+    return static_cast<T>(HIWORD(call.l));
+}
+int SignedLoL(const Call& call) {
+    return static_cast<short>(LOWORD(call.l));
+}
+int SignedHiL(const Call& call) {
+    return static_cast<short>(HIWORD(call.l));
+}
+CPoint PointL(const Call& call) {
+    return CPoint(SignedLoL(call), SignedHiL(call));
+}
+CWnd* WndW(const Call& call) {
+    return CWnd::FromHandle(reinterpret_cast<HWND>(call.w));
+}
+CWnd* WndL(const Call& call) {
+    return CWnd::FromHandle(reinterpret_cast<HWND>(call.l));
+}
+CMenu* MenuW(const Call& call) {
+    return CMenu::FromHandle(reinterpret_cast<HMENU>(call.w));
+}
+CScrollBar* BarL(const Call& call) {
+    return static_cast<CScrollBar*>(WndL(call));
+}
+CListBox* ListL(const Call& call) {
+    return static_cast<CListBox*>(WndL(call));
+}
 
 template <class R> LRESULT AsResult(R value) {
     if constexpr (std::is_pointer_v<R>)
@@ -64,7 +88,9 @@ template <class R, class... A> LRESULT CallAs(const Call& call, A... arguments) 
     }
 }
 
-template <class R, auto... Get> LRESULT Unpack(Call& call) { return CallAs<R>(call, Get(call)...); }
+template <class R, auto... Get> LRESULT Unpack(Call& call) {
+    return CallAs<R>(call, Get(call)...);
+}
 
 // A handler that answers FALSE leaves the message to default processing.
 template <class R, auto... Get> LRESULT UnpackOrDefault(Call& call) {
@@ -99,7 +125,9 @@ LRESULT UnpackErase(Call& call) {
     return CallAs<BOOL>(call, dc.Get());
 }
 
-UINT ColourKind() { return CWnd::GetCurrentMessage()->message - WM_CTLCOLORMSGBOX; }
+UINT ColourKind() {
+    return CWnd::GetCurrentMessage()->message - WM_CTLCOLORMSGBOX;
+}
 
 LRESULT UnpackColour(Call& call) {
     LentDC dc(call.w);

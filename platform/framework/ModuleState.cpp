@@ -62,7 +62,8 @@ AFX_MODULE_STATE* AFXAPI AfxSetModuleState(AFX_MODULE_STATE* pNewState) {
 }
 
 AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pNewState)
-    : m_pPrevModuleState(AfxSetModuleState(pNewState)) {}
+    : m_pPrevModuleState(AfxSetModuleState(pNewState)) {
+}
 
 AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2() {
     AfxSetModuleState(m_pPrevModuleState);

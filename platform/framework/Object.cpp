@@ -22,7 +22,8 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
     return GetRuntimeClass()->IsDerivedFrom(pClass);
 }
 
-void CObject::AssertValid() const {}
+void CObject::AssertValid() const {
+}
 
 CObject* AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
     return pObject && pObject->IsKindOf(pClass) ? pObject : nullptr;

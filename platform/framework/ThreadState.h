@@ -87,7 +87,8 @@ struct AfxWndAccess {
 };
 
 // Delivers a message to an object: keeps the message in work, lets no exception out.
-LRESULT AfxCallWndProc(AfxThreadState& state, CWnd* pWnd, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT AfxCallWndProc(AfxThreadState& state, CWnd* pWnd, HWND hWnd, UINT message, WPARAM wParam,
+                       LPARAM lParam);
 // The next window that the thread creates becomes pWnd's.
 bool AfxHookWindowCreate(CWnd* pWnd);
 // Ends that; false when no window was created meanwhile.

@@ -19,8 +19,9 @@ TVITEM ItemOf(HTREEITEM hItem, UINT mask) {
 } // namespace
 
 CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
-        Tree(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType), pImageList ? pImageList->m_hImageList : nullptr)));
+    return CImageList::FromHandle(
+        reinterpret_cast<HIMAGELIST>(Tree(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType),
+                                          pImageList ? pImageList->m_hImageList : nullptr)));
 }
 
 HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {

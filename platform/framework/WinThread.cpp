@@ -12,7 +12,8 @@ bool IsQueueEmpty() {
 
 } // namespace
 
-CWinThread::CWinThread() : m_nThreadID(::GetCurrentThreadId()) {}
+CWinThread::CWinThread() : m_nThreadID(::GetCurrentThreadId()) {
+}
 
 CWinThread::~CWinThread() {
     AfxThreadState& state = AfxThreadState::Get();

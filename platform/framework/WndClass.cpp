@@ -3,8 +3,6 @@
 #include "ThreadState.h"
 #include "afxapp_.h"
 
-#include <cwchar>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -65,10 +63,10 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     wc.hCursor = hCursor;
     wc.hbrBackground = hbrBackground;
     wc.hIcon = hIcon;
-    wchar_t (&name)[96] = AfxThreadState::Get().className;
+    wchar_t(&name)[96] = AfxThreadState::Get().className;
     // The name tells every property apart, so that equal requests share a class.
-    std::swprintf(name, std::size(name), L"Afx:%p:%x:%p:%p:%p", static_cast<void*>(wc.hInstance), nClassStyle,
-                  static_cast<void*>(hCursor), static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));
+    ::wsprintfW(name, L"Afx:%p:%x:%p:%p:%p", static_cast<void*>(wc.hInstance), nClassStyle,
+                static_cast<void*>(hCursor), static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));
     wc.lpszClassName = name;
     return AfxRegisterClass(&wc) ? name : nullptr;
 }

@@ -46,8 +46,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         return header && header->hwndFrom && OnNotify(wParam, lParam, &result);
     }
     const UINT mapped = IsControlColour(message) ? WM_CTLCOLOR : message;
-    const AFX_MSGMAP_ENTRY* const entry =
-        AfxThreadState::Get().messageCache.Find(GetMessageMap(), mapped);
+    const AFX_MSGMAP_ENTRY* const entry = AfxThreadState::Get().messageCache.Find(GetMessageMap(), mapped);
     return entry && AfxDispatchMessage(this, *entry, wParam, lParam, &result);
 }
 
@@ -144,7 +143,8 @@ HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT) {
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
     if (lpDrawItemStruct->CtlType == ODT_MENU) {
-        if (CMenu* const menu = CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(lpDrawItemStruct->hwndItem)))
+        if (CMenu* const menu =
+                CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(lpDrawItemStruct->hwndItem)))
             return menu->DrawItem(lpDrawItemStruct);
     } else if (ReflectLastMsg(lpDrawItemStruct->hwndItem)) {
         return;

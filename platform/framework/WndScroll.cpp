@@ -53,7 +53,8 @@ void CWnd::EnableScrollBarCtrl(int nBar, BOOL bEnable) {
         if (CScrollBar* const control = GetScrollBarCtrl(number))
             control->EnableWindow(bEnable);
         else
-            ::EnableScrollBar(m_hWnd, static_cast<UINT>(number), bEnable ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH);
+            ::EnableScrollBar(m_hWnd, static_cast<UINT>(number),
+                              bEnable ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH);
     };
     if (nBar == SB_BOTH) {
         enable(SB_HORZ);
@@ -66,5 +67,6 @@ void CWnd::EnableScrollBarCtrl(int nBar, BOOL bEnable) {
 int CWnd::ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
                          LPRECT lpRectUpdate, UINT flags) {
     return ::ScrollWindowEx(m_hWnd, dx, dy, lpRectScroll, lpRectClip,
-                            prgnUpdate ? static_cast<HRGN>(prgnUpdate->m_hObject) : nullptr, lpRectUpdate, flags);
+                            prgnUpdate ? static_cast<HRGN>(prgnUpdate->m_hObject) : nullptr, lpRectUpdate,
+                            flags);
 }
