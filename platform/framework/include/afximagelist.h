@@ -6,6 +6,7 @@
 
 #include "afxgdi.h"
 #include <commctrl.h>
+#include <shellapi.h> // renames ExtractIcon by a macro: every source must see the same name
 
 class AFXFRAME_API CImageList : public CObject {
     DECLARE_DYNCREATE(CImageList)
