@@ -73,7 +73,7 @@ INT_PTR CFileDialog::DoModal() {
     m_ofn.hwndOwner = PreModal();
     if (!m_ofn.hInstance)
         m_ofn.hInstance = AfxGetResourceHandle();
-    const unsigned long long firstTemporary = AfxThreadState::Get().temporaryWindows.NextSerial();
+    const TemporaryScope temporaries;
     BOOL chosen = FALSE;
     {
         const StartingDialog starting(this);
@@ -83,7 +83,7 @@ INT_PTR CFileDialog::DoModal() {
     if (m_hWnd) // the hook's window went without telling
         Detach();
     // The system's own loop never is idle: what it left of temporary objects goes here.
-    AfxThreadState::Get().temporaryWindows.RemoveSince(firstTemporary);
+    temporaries.Remove();
     if (focus && ::IsWindow(focus))
         ::SetFocus(focus);
     return chosen ? IDOK : IDCANCEL;

@@ -40,14 +40,15 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
     CGdiObject* const attached = FromHandlePermanent(hObject);
     if (!hObject || attached)
         return attached;
-    auto& temporaries = ThreadTemporaries::Get().gdiObjects;
+    ThreadTemporaries& thread = ThreadTemporaries::Get();
+    auto& temporaries = thread.gdiObjects;
     std::unique_ptr<CGdiObject> fresh = ObjectOfKind(::GetObjectType(hObject));
     CGdiObject* const known = temporaries.Find(hObject);
     if (known && known->GetRuntimeClass() == fresh->GetRuntimeClass())
         return known;
     temporaries.Retire(hObject); // the system has given the handle to an object of another kind
     fresh->m_hObject = hObject;
-    return temporaries.Add(hObject, std::move(fresh));
+    return temporaries.Add(hObject, std::move(fresh), thread.nextSerial++);
 }
 
 void PASCAL CGdiObject::DeleteTempMap() {

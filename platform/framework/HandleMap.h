@@ -86,24 +86,26 @@ template <class OBJECT, class HANDLE_TYPE> class AttachedHandles {
     std::unordered_map<Key, OBJECT*, KeyHash> m_objects;
 };
 
-// The temporary objects of one kind on one thread. They borrow: Forget(object) takes the handle out of an
-// object before it is deleted.
+// The temporary objects of one kind on one thread. They borrow: Forget(object) takes the handle out of an object
+// before it is deleted. Each has a serial number, so that a nested loop removes only what was made since it began.
 template <class OBJECT, class HANDLE_TYPE> class TemporaryHandles {
   public:
+    typedef unsigned long long Serial;
+
     TemporaryHandles() = default;
-    ~TemporaryHandles() { Clear(); }
+    ~TemporaryHandles() { RemoveSince(0); }
     TemporaryHandles(const TemporaryHandles&) = delete;
     TemporaryHandles& operator=(const TemporaryHandles&) = delete;
 
     OBJECT* Find(HANDLE_TYPE handle) const {
         const auto found = m_objects.find(handle);
-        return found != m_objects.end() ? found->second.get() : nullptr;
+        return found != m_objects.end() ? found->second.object.get() : nullptr;
     }
-    OBJECT* Add(HANDLE_TYPE handle, std::unique_ptr<OBJECT> object) {
-        return (m_objects[handle] = std::move(object)).get();
+    OBJECT* Add(HANDLE_TYPE handle, std::unique_ptr<OBJECT> object, Serial serial) {
+        return (m_objects[handle] = {std::move(object), serial}).object.get();
     }
-    // The handle no longer stands for its temporary object, which lives on until Clear because somebody may
-    // hold it.
+    // The handle no longer stands for its temporary object, which lives on with the others because somebody may hold
+    // it.
     void Retire(HANDLE_TYPE handle) {
         const auto found = m_objects.find(handle);
         if (found == m_objects.end())
@@ -111,17 +113,22 @@ template <class OBJECT, class HANDLE_TYPE> class TemporaryHandles {
         m_retired.push_back(std::move(found->second));
         m_objects.erase(found);
     }
-    void Clear() {
-        for (auto& entry : m_objects)
-            Forget(*entry.second);
-        for (auto& object : m_retired)
-            Forget(*object);
-        m_objects.clear();
-        m_retired.clear();
+    void RemoveSince(Serial serial) {
+        const auto isDropped = [serial](const Temporary& temporary) {
+            if (temporary.serial < serial)
+                return false;
+            Forget(*temporary.object);
+            return true;
+        };
+        std::erase_if(m_retired, isDropped);
+        std::erase_if(m_objects, [&isDropped](const auto& entry) { return isDropped(entry.second); });
     }
-    size_t Count() const { return m_objects.size() + m_retired.size(); }
 
   private:
-    std::unordered_map<HANDLE_TYPE, std::unique_ptr<OBJECT>> m_objects;
-    std::vector<std::unique_ptr<OBJECT>> m_retired;
+    struct Temporary {
+        std::unique_ptr<OBJECT> object;
+        Serial serial = 0;
+    };
+    std::unordered_map<HANDLE_TYPE, Temporary> m_objects;
+    std::vector<Temporary> m_retired;
 };

@@ -21,7 +21,7 @@ bool IsUserInput(UINT message) {
 class ModalRun {
   public:
     ModalRun(CWnd& wnd, DWORD flags)
-        : m_wnd(wnd), m_watch(&wnd), m_flags(flags), m_firstTemporary(Temporaries().NextSerial()),
+        : m_wnd(wnd), m_watch(&wnd), m_flags(flags),
           m_showPending((flags & MLF_SHOWONIDLE) && !(wnd.GetStyle() & WS_VISIBLE)) {}
 
     bool IsAlive() const { return m_watch.IsAlive(); }
@@ -38,7 +38,7 @@ class ModalRun {
         if (IsAlive() && !(m_flags & MLF_NOKICKIDLE))
             again = m_wnd.SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, m_count++) != 0;
         // Callers further out may hold temporary objects: only those of this loop go.
-        Temporaries().RemoveSince(m_firstTemporary);
+        m_temporaries.Remove();
         return again;
     }
     void OnMessageDone(const MSG& message) {
@@ -50,7 +50,6 @@ class ModalRun {
     bool WantsIdle() const { return m_count == 0; }
 
   private:
-    static TemporaryWindows& Temporaries() { return AfxThreadState::Get().temporaryWindows; }
     void Show() {
         if (!std::exchange(m_showPending, false) || !IsAlive())
             return;
@@ -62,7 +61,7 @@ class ModalRun {
     CWnd& m_wnd;
     WndWatch m_watch;
     const DWORD m_flags;
-    const unsigned long long m_firstTemporary;
+    const TemporaryScope m_temporaries;
     bool m_showPending;
     LONG m_count = 0;
     int m_messages = 0;

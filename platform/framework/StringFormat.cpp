@@ -116,7 +116,14 @@ void AFX_CDECL CString::FormatMessage(UINT nFormatID, ...) {
 }
 
 BOOL CString::LoadString(UINT nID) {
-    return LoadString(AfxFindResourceHandle(BlockName(nID), RT_STRING), nID);
+    constexpr int kFirstTry = 256; // units with terminator; what does not fit comes back cut to it
+    CString found;
+    for (int room = kFirstTry;; room *= 2) {
+        const int length = AfxLoadString(nID, found.GetBuffer(room), static_cast<UINT>(room));
+        found.ReleaseBuffer(length);
+        if (length < room - 1)
+            return Take(*this, std::move(found));
+    }
 }
 
 BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {

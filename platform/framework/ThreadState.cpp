@@ -1,4 +1,5 @@
 #include "ThreadState.h"
+#include "ThreadTemporaries.h"
 
 #include <utility>
 
@@ -26,6 +27,10 @@ class Slot {
         return *made;
     }
 
+    AfxThreadState* Existing() const {
+        return m_index != FLS_OUT_OF_INDEXES ? static_cast<AfxThreadState*>(::FlsGetValue(m_index)) : nullptr;
+    }
+
   private:
     // After the slot is gone only destructors of the ending process ask; what they get is never freed.
     static AfxThreadState& Late() {
@@ -46,6 +51,20 @@ Slot& ThreadSlot() {
 
 AfxThreadState& AfxThreadState::Get() {
     return ThreadSlot().Value();
+}
+
+AfxThreadState* AfxThreadState::GetExisting() {
+    return ThreadSlot().Existing();
+}
+
+TemporaryScope::TemporaryScope()
+    : m_firstWindow(AfxThreadState::Get().temporaryWindows.NextSerial()),
+      m_firstOther(ThreadTemporaries::NextSerial()) {
+}
+
+void TemporaryScope::Remove() const {
+    AfxThreadState::Get().temporaryWindows.RemoveSince(m_firstWindow);
+    ThreadTemporaries::RemoveSince(m_firstOther);
 }
 
 CWnd* TemporaryWindows::FindOrMake(HWND hWnd) {
@@ -80,7 +99,8 @@ WndWatch::~WndWatch() {
 }
 
 void WndWatch::OnDeleted(const CWnd* pWnd) {
-    for (WndWatch* watch = AfxThreadState::Get().watches; watch; watch = watch->m_pOuter)
+    const AfxThreadState* const state = AfxThreadState::GetExisting();
+    for (WndWatch* watch = state ? state->watches : nullptr; watch; watch = watch->m_pOuter)
         if (watch->m_pWnd == pWnd)
             watch->m_pWnd = nullptr;
 }

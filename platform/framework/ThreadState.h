@@ -76,6 +76,20 @@ struct AfxThreadState {
 
     // The calling thread's, made at the first call; it goes with the thread or with the framework.
     static AfxThreadState& Get();
+    // Null while the thread has none; in destructors, which must not bring it back.
+    static AfxThreadState* GetExisting();
+};
+
+// The temporary objects of all kinds that the calling thread has made since this object was made. Callers further
+// out may hold older ones.
+class TemporaryScope {
+  public:
+    TemporaryScope();
+    void Remove() const;
+
+  private:
+    unsigned long long m_firstWindow;
+    unsigned long long m_firstOther;
 };
 
 // The private ends of CWnd that the window procedure and the modal loop work on.

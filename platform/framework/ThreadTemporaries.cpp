@@ -47,3 +47,18 @@ ThreadTemporaries& ThreadTemporaries::Get() {
 ThreadTemporaries* ThreadTemporaries::GetExisting() {
     return ThreadSlot().Value();
 }
+
+unsigned long long ThreadTemporaries::NextSerial() {
+    const ThreadTemporaries* const existing = GetExisting();
+    return existing ? existing->nextSerial : 0;
+}
+
+void ThreadTemporaries::RemoveSince(unsigned long long serial) {
+    ThreadTemporaries* const existing = GetExisting();
+    if (!existing)
+        return;
+    existing->gdiObjects.RemoveSince(serial);
+    existing->dcs.RemoveSince(serial);
+    existing->menus.RemoveSince(serial);
+    existing->imageLists.RemoveSince(serial);
+}

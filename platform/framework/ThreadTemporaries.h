@@ -28,6 +28,12 @@ struct ThreadTemporaries {
     static ThreadTemporaries& Get();
     // Null while the thread has none.
     static ThreadTemporaries* GetExisting();
+
+    // What the next temporary object of the calling thread is numbered, and the removal of those made since.
+    static unsigned long long NextSerial();
+    static void RemoveSince(unsigned long long serial);
+
+    unsigned long long nextSerial = 0;
 };
 
 // ---- What Attach, Detach, FromHandlePermanent, FromHandle and DeleteTempMap of the four classes do. m_h is
@@ -63,15 +69,16 @@ OBJECT* FindOrBorrow(HANDLE_TYPE handle, HANDLE_TYPE OBJECT::*m_h, TemporaryList
     OBJECT* const attached = FindAttached<OBJECT>(handle);
     if (!handle || attached)
         return attached;
-    auto& temporaries = ThreadTemporaries::Get().*list;
+    ThreadTemporaries& thread = ThreadTemporaries::Get();
+    auto& temporaries = thread.*list;
     if (OBJECT* const known = temporaries.Find(handle))
         return known;
     std::unique_ptr<OBJECT> fresh = std::make_unique<OBJECT>();
     (*fresh).*m_h = handle;
-    return temporaries.Add(handle, std::move(fresh));
+    return temporaries.Add(handle, std::move(fresh), thread.nextSerial++);
 }
 
 template <class OBJECT, class HANDLE_TYPE> void ClearTemporaries(TemporaryList<OBJECT, HANDLE_TYPE> list) {
     if (ThreadTemporaries* const temporaries = ThreadTemporaries::GetExisting())
-        (temporaries->*list).Clear();
+        (temporaries->*list).RemoveSince(0);
 }

@@ -12,13 +12,15 @@ const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 CWnd::CWnd() = default;
 
 CWnd::~CWnd() {
-    AfxThreadState& state = AfxThreadState::Get();
-    if (state.creatingWnd == this)
-        state.creatingWnd = nullptr;
+    AfxThreadState* const state = AfxThreadState::GetExisting();
+    if (!state) // temporary objects of an ending thread among others
+        return;
+    if (state->creatingWnd == this)
+        state->creatingWnd = nullptr;
     // Temporary objects and the z order places borrow their handle.
-    if (m_hWnd && state.permanentWindows.Find(m_hWnd) == this)
+    if (m_hWnd && state->permanentWindows.Find(m_hWnd) == this)
         CWnd::DestroyWindow();
-    if (m_hWnd && state.permanentWindows.Find(m_hWnd) == this)
+    if (m_hWnd && state->permanentWindows.Find(m_hWnd) == this)
         Detach();
     WndWatch::OnDeleted(this);
 }
