@@ -1,0 +1,35 @@
+// Ids of the templates in controls.rc.
+#pragma once
+
+#define IDD_GALLERY 200
+#define IDD_SMALL 201
+#define IDD_PLAIN 202
+#define IDD_PAGE 203
+
+#define IDC_TITLE 1001
+#define IDC_PUSH 1002
+#define IDC_PRESSED 1003
+#define IDC_LATCHED 1004
+#define IDC_OFF 1005
+#define IDC_CHECK1 1010
+#define IDC_CHECK2 1011
+#define IDC_CHECK3 1012
+#define IDC_CHECK4 1013
+#define IDC_RADIO1 1020
+#define IDC_RADIO2 1021
+#define IDC_RADIO3 1022
+#define IDC_GROUP 1030
+#define IDC_LABEL 1031
+#define IDC_LABEL_OFF 1032
+#define IDC_LINE 1033
+#define IDC_EDIT 1040
+#define IDC_EDIT_READONLY 1041
+#define IDC_EDIT_OFF 1042
+#define IDC_EDIT_LINES 1043
+#define IDC_LIST_COMBO 1050
+#define IDC_EDIT_COMBO 1051
+#define IDC_OFF_COMBO 1052
+#define IDC_CHECK_COMBO 1053
+#define IDC_PROGRESS 1060
+#define IDC_ICON_BUTTON 1070
+#define IDC_LISTBOX 1071
