@@ -11,6 +11,8 @@ namespace {
 constexpr int kCornerPx = 3;
 constexpr int kFocusLinePx = 2;
 constexpr int kTextInsetPx = 5; // from the edge of a row or field to its text
+constexpr int kEditMarginPx =
+    3; // beside the text of the edit field, which stands 3 pixels inside the combo box
 constexpr wchar_t kArrowImage[] = L"CommonCtrl\\Combo\\arrow.png";
 
 } // namespace
@@ -40,6 +42,7 @@ void CQVComboImpl::AttachParts() {
         !CWnd::FromHandlePermanent(info.hwndItem)) {
         m_edit = std::make_unique<CQVEdit>();
         m_edit->SubclassWindow(info.hwndItem);
+        m_edit->SetMargins(static_cast<UINT>(Px(kEditMarginPx)), static_cast<UINT>(Px(kEditMarginPx)));
     }
 }
 

@@ -137,9 +137,49 @@ void CQVEdit::PaintFrame() {
     dc.FillSolidRect(area, QV_GetSysColor(GroundColor()));
 }
 
+// The system draws the text of a disabled field in its own grey, whatever colour it is given.
+void CQVEdit::PaintDisabled(CDC* dc, const CRect& client) const {
+    dc->FillSolidRect(client, QV_GetSysColor(GroundColor()));
+    const DWORD style = GetStyle();
+    const auto margins = static_cast<DWORD>(::SendMessageW(m_hWnd, EM_GETMARGINS, 0, 0));
+    CString text = WindowTextOf(m_hWnd);
+    const auto mask = static_cast<wchar_t>(::SendMessageW(m_hWnd, EM_GETPASSWORDCHAR, 0, 0));
+    if (mask)
+        text = CString(mask, text.GetLength());
+    UINT format = DT_NOPREFIX | DT_EDITCONTROL | DT_EXPANDTABS;
+    if (style & ES_CENTER)
+        format |= DT_CENTER;
+    else if (style & ES_RIGHT)
+        format |= DT_RIGHT;
+    CRect place(client);
+    place.DeflateRect(LOWORD(margins), 0, HIWORD(margins), 0);
+    if (style & ES_MULTILINE) {
+        ::SendMessageW(m_hWnd, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&place));
+        const auto firstLine = static_cast<int>(::SendMessageW(m_hWnd, EM_GETFIRSTVISIBLELINE, 0, 0));
+        place.top -= firstLine * LineHeight(m_hWnd);
+        format |= style & ES_AUTOHSCROLL ? 0 : DT_WORDBREAK;
+    } else {
+        format |= DT_SINGLELINE;
+    }
+    DrawTextIn(dc, text, place, format, WindowFontOf(m_hWnd), QV_GetSysColor(TextColor()));
+}
+
+void CQVEdit::FollowMouse(UINT message) {
+    if (message == WM_MOUSELEAVE && m_bHot) {
+        m_bHot = false;
+    } else if (message == WM_MOUSEMOVE && !m_bHot) {
+        TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, m_hWnd, 0};
+        m_bHot = ::TrackMouseEvent(&track) != FALSE;
+    } else {
+        return;
+    }
+    PaintFrame();
+}
+
 LRESULT CQVEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_frameStep == FrameStep::Due && message != WM_DESTROY && message != WM_NCDESTROY)
         TakeOverFrame();
+    FollowMouse(message);
     switch (message) {
     case WM_NCCALCSIZE:
         if (m_bFramed)
@@ -150,19 +190,25 @@ LRESULT CQVEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         const bool besideText = hit == HTNOWHERE || hit == HTBORDER;
         return m_bFramed && besideText && !(GetStyle() & ES_MULTILINE) ? HTCLIENT : hit;
     }
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+        if (IsWindowEnabled())
+            return CEdit::WindowProc(message, wParam, lParam);
+        PaintBuffered(m_hWnd, wParam, [this](CDC* dc, const CRect& client) { PaintDisabled(dc, client); });
+        return 0;
     case WM_SETFONT:
         NoteSkinFont(reinterpret_cast<HFONT>(wParam));
         break;
     default:
         break;
     }
-    HotTracker hot;
-    if (message == WM_MOUSEMOVE ? !m_bHot && hot.Follow(m_hWnd, message)
-                                : message == WM_MOUSELEAVE && m_bHot) {
-        m_bHot = !m_bHot;
-        PaintFrame();
-    }
     const LRESULT result = CEdit::WindowProc(message, wParam, lParam);
+    if (m_hWnd)
+        AfterMessage(message, result);
+    return result;
+}
+
+void CQVEdit::AfterMessage(UINT message, LRESULT result) {
     switch (message) {
     case WM_CREATE:
         if (result == 0)
@@ -178,6 +224,10 @@ LRESULT CQVEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         Invalidate();
         PaintFrame();
         break;
+    case WM_SETTEXT:
+        if (!IsWindowEnabled())
+            Invalidate();
+        break;
     case WM_NCPAINT:
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -186,7 +236,6 @@ LRESULT CQVEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         break;
     }
-    return result;
 }
 
 } // namespace _qv_commonctrl

@@ -30,6 +30,9 @@ class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     void TakeOverFrame();
     void OnNcCalc(RECT& rect) const;
     void PaintFrame();
+    void PaintDisabled(CDC* dc, const CRect& client) const;
+    void FollowMouse(UINT message);
+    void AfterMessage(UINT message, LRESULT result);
     int GroundColor() const;
     int TextColor() const;
     bool IsReadOnly() const;

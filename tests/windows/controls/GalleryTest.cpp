@@ -12,14 +12,14 @@ struct Text {
 };
 
 constexpr Text kEnglish[] = {
-    {IDC_GROUP, L"Buttons"},         {IDOK, L"&OK"},
-    {IDCANCEL, L"&Cancel"},          {IDC_OFF, L"Disabled"},
-    {IDC_PRESSED, L"Pressed"},       {IDC_LATCHED, L"Latched"},
-    {IDC_PUSH, L"Focus"},            {IDC_CHECK1, L"Do &not ask again"},
-    {IDC_CHECK2, L"Checked"},        {IDC_CHECK3, L"Partly"},
-    {IDC_CHECK4, L"Disabled"},       {IDC_RADIO1, L"Flattened"},
-    {IDC_RADIO2, L"By layers"},      {IDC_RADIO3, L"Disabled"},
-    {IDC_LABEL, L"&File name:"},     {IDC_LABEL_OFF, L"Disabled:"},
+    {IDC_GROUP, L"Buttons"},     {IDOK, L"&OK"},
+    {IDCANCEL, L"&Cancel"},      {IDC_OFF, L"Disabled"},
+    {IDC_PRESSED, L"Pressed"},   {IDC_LATCHED, L"Latched"},
+    {IDC_PUSH, L"Focus"},        {IDC_CHECK1, L"Do &not ask again"},
+    {IDC_CHECK2, L"Checked"},    {IDC_CHECK3, L"Partly"},
+    {IDC_CHECK4, L"Disabled"},   {IDC_RADIO1, L"Flattened"},
+    {IDC_RADIO2, L"By layers"},  {IDC_RADIO3, L"Disabled"},
+    {IDC_LABEL, L"&File name:"}, {IDC_LABEL_OFF, L"Disabled:"},
     {IDC_TITLE, L"O&pen"},
 };
 
@@ -67,8 +67,8 @@ class GalleryDialog : public TestDialog {
             m_layers.SetCheck(m_layers.AddString(name), name[0] != L'S');
         ::SendMessageW(Item(IDC_PROGRESS), PBM_SETPOS, 60, 0);
         auto* reset = dynamic_cast<CQVButton*>(CWnd::FromHandlePermanent(Item(IDC_ICON_BUTTON)));
-        if (reset)
-            EXPECT_TRUE(reset->SetImageList(QV_GetSkinPath() + L"\\OPAL\\Reset.png", QVIMAGE_HAS_ALL));
+        ASSERT_NE(nullptr, reset);
+        EXPECT_TRUE(reset->SetImageList(QV_GetSkinPath() + L"\\OPAL\\Reset.png", QVIMAGE_HAS_ALL));
     }
 
     bool m_chinese;
@@ -76,7 +76,12 @@ class GalleryDialog : public TestDialog {
 
 } // namespace
 
-class Gallery : public Controls, public ::testing::WithParamInterface<std::pair<const wchar_t*, const wchar_t*>> {};
+class Gallery : public Controls,
+                public ::testing::WithParamInterface<std::pair<const wchar_t*, const wchar_t*>> {};
+
+static std::wstring PathOf(const wchar_t* what, const wchar_t* skin, const wchar_t* language) {
+    return qvtest::picturePath(std::wstring(what) + skin + L"-" + language);
+}
 
 TEST_P(Gallery, Picture) {
     const auto [skin, language] = GetParam();
@@ -88,12 +93,12 @@ TEST_P(Gallery, Picture) {
     ::SetFocus(dialog.Item(IDC_PUSH));
     ::SendMessageW(dialog, DM_SETDEFID, IDOK, 0);
     const Picture picture = WindowShot(dialog);
-    picture.save(qvtest::picturePath(CString(L"controls-") + skin + L"-" + language));
+    picture.save(PathOf(L"controls-", skin, language));
     EXPECT_GT(picture.count(QV_GetSysColor(QVCLR_WINDOW)), picture.width() * picture.height() / 4);
     EXPECT_EQ(0, picture.count(::GetSysColor(COLOR_BTNFACE))) << "a patch of the system's look";
     ::SendMessageW(dialog.m_layers, CB_SHOWDROPDOWN, TRUE, 0);
     Pump();
-    Picture::ofScreen().save(qvtest::picturePath(CString(L"controls-drop-") + skin + L"-" + language));
+    Picture::ofScreen().save(PathOf(L"controls-drop-", skin, language));
     ::SendMessageW(dialog.m_layers, CB_SHOWDROPDOWN, FALSE, 0);
     dialog.DestroyWindow();
 }
