@@ -72,7 +72,12 @@ HWND CWnd::Detach() {
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
-    if (!::IsWindow(hWnd) || !Attach(hWnd))
+    if (!::IsWindow(hWnd) || m_hWnd)
+        return FALSE;
+    // An object that a control has made for itself leaves the window to the program's own.
+    if (AfxThreadState::Get().permanentWindows.Find(hWnd))
+        ::SendMessageW(hWnd, WM_AFXMAKEROOM, 0, 0);
+    if (!Attach(hWnd))
         return FALSE;
     PreSubclassWindow();
     // Our procedure may still be in the window's chain from an earlier connection.

@@ -43,6 +43,11 @@ constexpr DWORD MLF_SHOWONIDLE = 0x0004; // show the window when the queue is em
 // Sent to the window of a modal loop while the queue is empty: lParam counts from 0. Nonzero answer: again.
 constexpr UINT WM_KICKIDLE = 0x036A;
 
+// Sent by SubclassWindow to a window that has an object already. A control class that makes objects for windows
+// of its own accord (so that GetDlgItem finds one for a dialog template's control) answers by disconnecting its
+// object. Anybody else leaves it unanswered, and SubclassWindow fails.
+constexpr UINT WM_AFXMAKEROOM = 0x037E;
+
 // The windows' procedure; class registrations name it.
 AFXFRAME_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 
