@@ -113,12 +113,16 @@ void LayerRecord::readUnicodeName(ByteCursor body) {
     const std::uint8_t* bytes = body.take(wanted * sizeof(char16_t));
     if (bytes == nullptr)
         return;
+    m_name.resize(wanted);
+    bool hasSurrogates = false;
     for (std::size_t i = 0; i < wanted; ++i) {
-        const char16_t unit = ByteCursor::u16Of(bytes + i * sizeof(char16_t));
-        if (unit == 0)
-            break;
-        m_name.push_back(unit);
+        m_name[i] = ByteCursor::u16Of(bytes + i * sizeof(char16_t));
+        hasSurrogates |= (m_name[i] & 0xF800) == 0xD800;
     }
+    if (const std::size_t end = m_name.find(u'\0'); end != std::u16string::npos)
+        m_name.resize(end);
+    if (!hasSurrogates)
+        return;
     if (wanted < units && !m_name.empty() && isHighSurrogate(m_name.back()))
         m_name.pop_back(); // the cut went through a pair
     replaceLoneSurrogates(m_name);

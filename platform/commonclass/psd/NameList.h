@@ -12,7 +12,9 @@ namespace _qv_commonclass::psd {
 // never moved, so that even the longest list needs no second copy of itself while it grows.
 class NameList {
   public:
-    static constexpr std::size_t kBlockUnits = 32 * 1024;
+    // The first block is small, each next one twice as long up to the limit.
+    static constexpr std::size_t kFirstBlockUnits = 1024;
+    static constexpr std::size_t kLastBlockUnits = 32 * 1024;
     // The longest name a list takes.
     static constexpr std::size_t kMaxNameUnits = 4096;
 
@@ -27,9 +29,12 @@ class NameList {
     void append(std::u16string_view name);
 
   private:
+    void addBlock(std::size_t units);
+
     std::vector<std::unique_ptr<char16_t[]>> m_blocks;
     std::vector<std::u16string_view> m_names;
-    std::size_t m_usedUnits = kBlockUnits; // of the last block
+    std::size_t m_blockUnits = 0; // length of the last block
+    std::size_t m_usedUnits = 0;  // and what of it is taken
     std::size_t m_totalUnits = 0;
 };
 

@@ -42,12 +42,14 @@ class ReadWindow {
     }
     const std::uint8_t* refill(std::uint64_t offset, std::size_t count) noexcept;
     std::size_t nextSpan() noexcept;
+    bool keep(std::size_t from, std::size_t kept, std::size_t capacity) noexcept;
 
     ByteSource& m_source;
     std::unique_ptr<std::uint8_t[]> m_buffer;
     std::uint64_t m_sourceSize;
     std::uint64_t m_begin = 0;
     std::uint64_t m_lastEnd = 0;
+    std::size_t m_capacity = 0;
     std::size_t m_filled = 0;
     std::size_t m_span = kNarrowBytes / 2;
     bool m_sawLongSkip = false;

@@ -40,7 +40,7 @@ class TaggedBlocks {
     static bool isSignature(const std::uint8_t* bytes) noexcept;
 
   private:
-    bool skipPadding() noexcept;
+    const std::uint8_t* nextHead() noexcept;
     bool hasWideLength(std::uint32_t signature, std::uint32_t key) const noexcept;
 
     ByteCursor m_rest;
