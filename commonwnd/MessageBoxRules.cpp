@@ -8,6 +8,11 @@ namespace _qv_commonwnd {
 
 namespace {
 
+// The least distances that a crowded box keeps, in pixels at 96 DPI.
+constexpr int kEdgePx = 6;
+constexpr int kRowGapPx = 4;
+constexpr int kNextToButtonGapPx = 8;
+
 int Grown(int question, int window, int limit) {
     return std::max(window, std::min(question, limit));
 }
@@ -19,6 +24,29 @@ CSize MessageBoxSize(CSize question, CSize window, CSize workArea, UINT dpi) {
     const int topAndBottom = _qv_commonctrl::QV_ScaleForDpi(kQuestionTopAndBottomPx, dpi);
     return CSize(Grown(question.cx + sides, window.cx, workArea.cx),
                  Grown(question.cy + topAndBottom, window.cy, workArea.cy));
+}
+
+MessageBoxParts FitQuestion(MessageBoxParts parts, CSize client, CSize question, int noAskWidth, UINT dpi) {
+    const auto scaled = [dpi](int px) { return _qv_commonctrl::QV_ScaleForDpi(px, dpi); };
+    CRect& text = parts.question;
+    if (text.Width() < question.cx) {
+        const int width = std::min<int>(question.cx, client.cx - 2 * scaled(kEdgePx));
+        text.left = (client.cx - width) / 2;
+        text.right = text.left + width;
+    }
+    if (text.Height() < question.cy) {
+        // One row for tick box and buttons.
+        parts.noAsk.MoveToY(parts.yes.CenterPoint().y - parts.noAsk.Height() / 2);
+        text.bottom = parts.yes.top - scaled(kRowGapPx);
+        text.top =
+            std::clamp<int>(text.bottom - question.cy, std::min<int>(scaled(kEdgePx), text.top), text.top);
+    }
+    const bool besideButtons = parts.noAsk.bottom > parts.yes.top;
+    const int limit =
+        besideButtons ? parts.yes.left - scaled(kNextToButtonGapPx) : client.cx - scaled(kEdgePx);
+    const int right = std::min<int>(parts.noAsk.left + noAskWidth, limit);
+    parts.noAsk.right = std::max<int>(parts.noAsk.right, right);
+    return parts;
 }
 
 CSize MeasureQuestion(HWND control, const CString& text) {

@@ -15,6 +15,18 @@ inline constexpr int kQuestionTopAndBottomPx = 8 + 78;
 // All in pixels.
 CSize MessageBoxSize(CSize question, CSize window, CSize workArea, UINT dpi);
 
+// Where the box's parts lie, in client pixels.
+struct MessageBoxParts {
+    CRect question;
+    CRect noAsk;
+    CRect yes; // the left-most button
+};
+
+// The parts once the box has its size. The template's places hold as long as the question fits there; a wider one is
+// widened to both sides, and for a higher one the tick box moves down beside the buttons and leaves its row to the
+// question. `noAskWidth` is what the tick box needs for its text; it is never made narrower than the template's.
+MessageBoxParts FitQuestion(MessageBoxParts parts, CSize client, CSize question, int noAskWidth, UINT dpi);
+
 // The size of a text in a control's own font, broken at its line breaks only; (0, 0) for an empty text or no
 // window.
 CSize MeasureQuestion(HWND control, const CString& text);

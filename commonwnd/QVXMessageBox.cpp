@@ -8,6 +8,8 @@
 #include <QVCommonClass.h>
 #include <QVSkin.h>
 
+#include <iterator>
+
 namespace _qv_commonwnd {
 
 namespace {
@@ -15,6 +17,9 @@ namespace {
 constexpr UINT kNoAnswer = 0;
 constexpr UINT kTypeWhileShown = 4;
 constexpr UINT kTypeUnset = 0x7FFFFFF;
+
+// What the tick box needs beside its text, in pixels at 96 DPI: mark, gap and focus ring.
+constexpr int kTickMarkPx = 26;
 
 // The answer given with the tick box ticked, for the rest of the run.
 UINT g_nMessageAnswer = kNoAnswer;
@@ -93,6 +98,31 @@ void CQVXMessageBox::GrowForQuestion() {
     const CSize size = MessageBoxSize(text, window.Size(), WorkAreaOf(GetSafeHwnd()).Size(),
                                       _qv_commonctrl::QV_GetWindowDpi(GetSafeHwnd()));
     SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+    PlaceParts(text);
+}
+
+// The anchors have moved the parts already; this makes room where the text needs more than they left it.
+void CQVXMessageBox::PlaceParts(CSize question) {
+    const HWND controls[] = {::GetDlgItem(m_hWnd, IDC_MSGBOX_TEXT), ::GetDlgItem(m_hWnd, IDC_MSGBOX_NOASK),
+                             ::GetDlgItem(m_hWnd, IDC_MSGBOX_YES)};
+    CRect places[std::size(controls)];
+    for (std::size_t i = 0; i < std::size(controls); ++i) {
+        if (!controls[i])
+            return;
+        ::GetWindowRect(controls[i], &places[i]);
+        ScreenToClient(&places[i]);
+    }
+    CRect client;
+    GetClientRect(&client);
+    CString noAskText;
+    GetDlgItemText(IDC_MSGBOX_NOASK, noAskText);
+    const UINT dpi = _qv_commonctrl::QV_GetWindowDpi(m_hWnd);
+    const int noAskWidth =
+        MeasureQuestion(controls[1], noAskText).cx + _qv_commonctrl::QV_ScaleForDpi(kTickMarkPx, dpi);
+    const MessageBoxParts parts =
+        FitQuestion({places[0], places[1], places[2]}, client.Size(), question, noAskWidth, dpi);
+    CWnd::FromHandle(controls[0])->MoveWindow(parts.question);
+    CWnd::FromHandle(controls[1])->MoveWindow(parts.noAsk);
 }
 
 BOOL CQVXMessageBox::PreTranslateMessage(MSG* msg) {

@@ -70,6 +70,7 @@ class QVCOMMONWND_API CQVXMessageBox : public _qv_commonctrl::CQVDialog {
   private:
     void AnchorControls();
     void GrowForQuestion();
+    void PlaceParts(CSize question);
     void Answer(QVMessageAnswer answer);
 };
 

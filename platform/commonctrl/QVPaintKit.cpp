@@ -106,7 +106,8 @@ void DrawTextIn(CDC* dc, const CString& text, CRect rect, UINT format, HFONT fon
 CSize MeasureText(CDC* dc, const CString& text, HFONT font, UINT format, int widthPx) {
     DcSelection selection(dc, font);
     CRect rect(0, 0, widthPx, 0);
-    dc->DrawText(text, rect, format | DT_CALCRECT);
+    // In an empty rectangle a centred or bottom line lies half or wholly above its top, and its height is lost.
+    dc->DrawText(text, rect, (format & ~static_cast<UINT>(DT_VCENTER | DT_BOTTOM)) | DT_CALCRECT);
     return rect.Size();
 }
 

@@ -3,17 +3,17 @@
 
 namespace messagebox_test {
 
-TEST_F(MessageBox, YesButton) {
+TEST_F(QuestionBox, YesButton) {
     EXPECT_EQ(2u, Ask([](Driver& user, HWND box) { user.click(box, IDC_MSGBOX_YES); }));
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, NoButton) {
+TEST_F(QuestionBox, NoButton) {
     EXPECT_EQ(4u, Ask([](Driver& user, HWND box) { user.click(box, IDC_MSGBOX_NO); }));
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, EnterIsYesWhateverHasTheFocus) {
+TEST_F(QuestionBox, EnterIsYesWhateverHasTheFocus) {
     EXPECT_EQ(2u, Ask([](Driver& user, HWND) { user.enter(); }));
     EXPECT_EQ(2u, Ask([](Driver& user, HWND box) {
                   const HWND no = qvtest::findControl(box, IDC_MSGBOX_NO);
@@ -22,21 +22,21 @@ TEST_F(MessageBox, EnterIsYesWhateverHasTheFocus) {
               }));
 }
 
-TEST_F(MessageBox, EscapeIsCancel) {
+TEST_F(QuestionBox, EscapeIsCancel) {
     EXPECT_EQ(8u, Ask([](Driver& user, HWND) { user.escape(); }));
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, ClosingIsNo) {
+TEST_F(QuestionBox, ClosingIsNo) {
     EXPECT_EQ(4u, Ask([](Driver&, HWND box) { ::PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0); }));
     EXPECT_EQ(4u, Ask([](Driver&, HWND box) { ::PostMessageW(box, WM_CLOSE, 0, 0); }));
 }
 
-TEST_F(MessageBox, DestroyedFromOutsideIsNo) {
+TEST_F(QuestionBox, DestroyedFromOutsideIsNo) {
     EXPECT_EQ(4u, Ask([](Driver& user, HWND box) { user.onUi([&] { ::DestroyWindow(box); }); }));
 }
 
-TEST_F(MessageBox, TickedYesIsRemembered) {
+TEST_F(QuestionBox, TickedYesIsRemembered) {
     EXPECT_EQ(2u, Ask([](Driver& user, HWND box) {
                   user.click(box, IDC_MSGBOX_NOASK);
                   EXPECT_TRUE(user.checked(qvtest::findControl(box, IDC_MSGBOX_NOASK)));
@@ -48,7 +48,7 @@ TEST_F(MessageBox, TickedYesIsRemembered) {
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, TickedNoIsRemembered) {
+TEST_F(QuestionBox, TickedNoIsRemembered) {
     EXPECT_EQ(4u, Ask([](Driver& user, HWND box) {
                   user.click(box, IDC_MSGBOX_NOASK);
                   user.click(box, IDC_MSGBOX_NO);
@@ -56,7 +56,7 @@ TEST_F(MessageBox, TickedNoIsRemembered) {
     ExpectSilent(4);
 }
 
-TEST_F(MessageBox, TickedEnterIsRemembered) {
+TEST_F(QuestionBox, TickedEnterIsRemembered) {
     EXPECT_EQ(2u, Ask([](Driver& user, HWND box) {
                   user.click(box, IDC_MSGBOX_NOASK);
                   user.enter();
@@ -64,7 +64,7 @@ TEST_F(MessageBox, TickedEnterIsRemembered) {
     ExpectSilent(2);
 }
 
-TEST_F(MessageBox, TickTakenBackIsNotRemembered) {
+TEST_F(QuestionBox, TickTakenBackIsNotRemembered) {
     EXPECT_EQ(2u, Ask([](Driver& user, HWND box) {
                   user.click(box, IDC_MSGBOX_NOASK);
                   user.click(box, IDC_MSGBOX_NOASK);
@@ -73,7 +73,7 @@ TEST_F(MessageBox, TickTakenBackIsNotRemembered) {
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, TickedEscapeAndTickedCloseAreNotRemembered) {
+TEST_F(QuestionBox, TickedEscapeAndTickedCloseAreNotRemembered) {
     EXPECT_EQ(8u, Ask([](Driver& user, HWND box) {
                   user.click(box, IDC_MSGBOX_NOASK);
                   user.escape();
@@ -86,7 +86,7 @@ TEST_F(MessageBox, TickedEscapeAndTickedCloseAreNotRemembered) {
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, RestWithoutRememberedAnswerIsZeroToo) {
+TEST_F(QuestionBox, RestWithoutRememberedAnswerIsZeroToo) {
     EXPECT_EQ(0u, QV_MessageRest());
 }
 
@@ -109,7 +109,7 @@ void Remember(UINT id) {
     });
 }
 
-TEST_F(MessageBox, OwnBoxShowsWhateverIsRemembered) {
+TEST_F(QuestionBox, OwnBoxShowsWhateverIsRemembered) {
     Remember(IDC_MSGBOX_YES);
     ExpectSilent(2);
     CQVXMessageBox box;
@@ -119,14 +119,14 @@ TEST_F(MessageBox, OwnBoxShowsWhateverIsRemembered) {
     ExpectSilent(4);
 }
 
-TEST_F(MessageBox, EscapeInAnOwnBoxForgets) {
+TEST_F(QuestionBox, EscapeInAnOwnBoxForgets) {
     Remember(IDC_MSGBOX_YES);
     CQVXMessageBox box;
     EXPECT_EQ(8u, ShowOwn(box, [](Driver& user, HWND) { user.escape(); }));
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, HiddenCancelButtonForgetsToo) {
+TEST_F(QuestionBox, HiddenCancelButtonForgetsToo) {
     Remember(IDC_MSGBOX_YES);
     CQVXMessageBox box;
     EXPECT_EQ(8u, ShowOwn(box, [](Driver&, HWND window) {
@@ -135,7 +135,7 @@ TEST_F(MessageBox, HiddenCancelButtonForgetsToo) {
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, OwnBoxStartsWithItsInitialValues) {
+TEST_F(QuestionBox, OwnBoxStartsWithItsInitialValues) {
     CQVXMessageBox box;
     EXPECT_TRUE(box.m_strCaption.IsEmpty());
     EXPECT_TRUE(box.m_strText.IsEmpty());
@@ -143,7 +143,7 @@ TEST_F(MessageBox, OwnBoxStartsWithItsInitialValues) {
     EXPECT_EQ(134217727u, box.m_nType);
 }
 
-TEST_F(MessageBox, OwnBoxCanBeShownAgain) {
+TEST_F(QuestionBox, OwnBoxCanBeShownAgain) {
     CQVXMessageBox box;
     EXPECT_EQ(2u, ShowOwn(box, [](Driver& user, HWND) { user.enter(); }));
     EXPECT_EQ(4u, box.m_nType);
@@ -151,7 +151,7 @@ TEST_F(MessageBox, OwnBoxCanBeShownAgain) {
                       box, [](Driver&, HWND window) { ::PostMessageW(window, WM_CLOSE, 0, 0); }, IDCANCEL));
 }
 
-TEST_F(MessageBox, HandlerOfTheTickBoxDoesNothing) {
+TEST_F(QuestionBox, HandlerOfTheTickBoxDoesNothing) {
     CQVXMessageBox box;
     box.OnBnClickedNoask();
     EXPECT_EQ(4u, box.m_nResult);

@@ -18,7 +18,7 @@ using qvtest::ModalScript;
 
 inline constexpr wchar_t kTitle[] = L"Question of the test";
 
-class MessageBox : public testing::Test {
+class QuestionBox : public testing::Test {
   protected:
     void SetUp() override {
         ASSERT_TRUE(_qv_commonctrl::QV_SetLanguage(L"en-US"));

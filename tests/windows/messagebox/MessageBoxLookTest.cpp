@@ -31,9 +31,9 @@ CSize Needed(HWND box, const CString& text) {
     return rect.Size();
 }
 
-class MessageBoxIn : public MessageBox, public testing::WithParamInterface<const wchar_t*> {};
+class QuestionBoxIn : public QuestionBox, public testing::WithParamInterface<const wchar_t*> {};
 
-TEST_P(MessageBoxIn, ShowsQuestionAndTranslatedButtons) {
+TEST_P(QuestionBoxIn, ShowsQuestionAndTranslatedButtons) {
     ASSERT_TRUE(_qv_commonctrl::QV_SetLanguage(GetParam()));
     Ask(
         [](Driver& user, HWND box) {
@@ -54,11 +54,11 @@ TEST_P(MessageBoxIn, ShowsQuestionAndTranslatedButtons) {
         L"Delete 视频?");
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, MessageBoxIn, testing::Values(L"en-US", L"zh-CN"), [](const auto& row) {
+INSTANTIATE_TEST_SUITE_P(Languages, QuestionBoxIn, testing::Values(L"en-US", L"zh-CN"), [](const auto& row) {
     return std::wstring(row.param) == L"en-US" ? "English" : "Chinese";
 });
 
-TEST_F(MessageBox, TypeHasNoEffect) {
+TEST_F(QuestionBox, TypeHasNoEffect) {
     CSize plain;
     Ask([&](Driver& user, HWND box) {
         plain = SizeOf(box);
@@ -76,7 +76,7 @@ TEST_F(MessageBox, TypeHasNoEffect) {
             L"Go on?", type);
 }
 
-TEST_F(MessageBox, ParentIsNotUsed) {
+TEST_F(QuestionBox, ParentIsNotUsed) {
     CWnd host;
     ASSERT_TRUE(host.CreateEx(0, AfxRegisterWndClass(0), L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
                               CRect(0, 0, 300, 200), nullptr, 0));
@@ -90,7 +90,7 @@ TEST_F(MessageBox, ParentIsNotUsed) {
     host.DestroyWindow();
 }
 
-TEST_F(MessageBox, SwallowsAllOtherKeys) {
+TEST_F(QuestionBox, SwallowsAllOtherKeys) {
     EXPECT_EQ(2u, Ask([](Driver& user, HWND box) {
                   user.settle();
                   const HWND focus = user.focus();
@@ -115,7 +115,7 @@ struct GrowthRow {
     CString text;
 };
 
-class MessageBoxGrowth : public MessageBox, public testing::WithParamInterface<GrowthRow> {
+class QuestionBoxGrowth : public QuestionBox, public testing::WithParamInterface<GrowthRow> {
   protected:
     static CSize TemplateSize() {
         CSize size;
@@ -129,7 +129,7 @@ class MessageBoxGrowth : public MessageBox, public testing::WithParamInterface<G
     }
 };
 
-TEST_P(MessageBoxGrowth, IsExactlyTextAndMargins) {
+TEST_P(QuestionBoxGrowth, IsExactlyTextAndMargins) {
     const CSize smallest = TemplateSize();
     const CString& text = GetParam().text;
     Ask(
@@ -147,6 +147,10 @@ TEST_P(MessageBoxGrowth, IsExactlyTextAndMargins) {
                 return rect.left >= 0 && rect.top >= 0 && rect.right <= client.right &&
                        rect.bottom <= client.bottom;
             };
+            CRect question;
+            ::GetClientRect(findControl(box, IDC_MSGBOX_TEXT), &question);
+            EXPECT_GE(question.Width(), needed.cx) << "no line is wrapped";
+            EXPECT_GE(question.Height(), needed.cy) << "no line is cut";
             for (const int id : {IDC_MSGBOX_TEXT, IDC_MSGBOX_NOASK, IDC_MSGBOX_YES, IDC_MSGBOX_NO})
                 EXPECT_TRUE(inside(id)) << id;
             user.settle();
@@ -164,13 +168,13 @@ CString Lines(int count, int length) {
     return text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Questions, MessageBoxGrowth,
+INSTANTIATE_TEST_SUITE_P(Questions, QuestionBoxGrowth,
                          testing::Values(GrowthRow{"short", L"Go on?"}, GrowthRow{"wide", Lines(1, 60)},
                                          GrowthRow{"high", Lines(12, 4)}, GrowthRow{"both", Lines(15, 70)},
                                          GrowthRow{"chinese", CString(L'视', 50)}),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(MessageBox, HugeQuestionStaysOnTheScreenAndCanBeAnswered) {
+TEST_F(QuestionBox, HugeQuestionStaysOnTheScreenAndCanBeAnswered) {
     constexpr int kMegabyte = 1 << 20;
     for (const CString& text : {CString(L'x', kMegabyte), Lines(2000, 100)})
         EXPECT_EQ(2u, Ask(
@@ -188,7 +192,7 @@ TEST_F(MessageBox, HugeQuestionStaysOnTheScreenAndCanBeAnswered) {
                           text));
 }
 
-TEST_F(MessageBox, EmptyTitleAndQuestionAreShownAsSuch) {
+TEST_F(QuestionBox, EmptyTitleAndQuestionAreShownAsSuch) {
     ModalScript script;
     script.step("answer", [](Driver& user) {
         const HWND box = user.waitWindow({.className = L"#32770", .title = L"", .thread = 0});
@@ -204,7 +208,7 @@ LRESULT CALLBACK RefuseWindows(int code, WPARAM wParam, LPARAM lParam) {
     return code == HCBT_CREATEWND ? 1 : ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-TEST_F(MessageBox, ThatCannotBeCreatedIsNo) {
+TEST_F(QuestionBox, ThatCannotBeCreatedIsNo) {
     const HHOOK hook = ::SetWindowsHookExW(WH_CBT, RefuseWindows, nullptr, ::GetCurrentThreadId());
     const UINT answer = QV_MessageBox(kTitle, L"Go on?", 0, nullptr);
     CQVXMessageBox box;
@@ -215,7 +219,7 @@ TEST_F(MessageBox, ThatCannotBeCreatedIsNo) {
     EXPECT_TRUE(Asks());
 }
 
-TEST_F(MessageBox, FollowsTheSkin) {
+TEST_F(QuestionBox, FollowsTheSkin) {
     CQVXMessageBox box;
     box.m_strCaption = kTitle;
     box.m_strText = L"Which skin?";
@@ -247,7 +251,7 @@ void CALLBACK AnswerYes(HWND, UINT, UINT_PTR, DWORD) {
         ::PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDC_MSGBOX_YES, BN_CLICKED), 0);
 }
 
-TEST_F(MessageBox, ThousandBoxesLeaveNothing) {
+TEST_F(QuestionBox, ThousandBoxesLeaveNothing) {
     constexpr int kBoxes = 1000;
     constexpr UINT kPollMs = 10;
     const UINT_PTR timer = ::SetTimer(nullptr, 0, kPollMs, AnswerYes);

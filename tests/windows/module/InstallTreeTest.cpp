@@ -128,10 +128,16 @@ TEST_F(InstallTree, EmptyCoreFolderStillExtendsPath) {
 }
 
 TEST_F(InstallTree, PathThatHoldsTheEntriesGetsASemicolonOnly) {
+    m_root.folder(L"App\\CoreDLL");
+    Run(CoreEntries(L"App") + L"C:\\windows");
+    EXPECT_EQ(CoreEntries(L"App") + L"C:\\windows;", m_said["path"]);
+}
+
+TEST_F(InstallTree, PathThatLeadsToTheLibraryIsLeftAlone) {
     PutColourSpace(L"App\\CoreDLL\\CPURelease\\x64");
     Run(CoreEntries(L"App") + L"C:\\windows");
     ExpectColourSpaceFrom(L"App\\CoreDLL\\CPURelease\\x64");
-    EXPECT_EQ(CoreEntries(L"App") + L"C:\\windows;", m_said["path"]);
+    EXPECT_EQ(m_said["pathBefore"], m_said["path"]);
 }
 
 TEST_F(InstallTree, OverlongPathIsReplaced) {
