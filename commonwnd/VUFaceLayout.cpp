@@ -1,0 +1,71 @@
+#include "VUFaceLayout.h"
+
+#include <QVSkin.h>
+
+namespace _qv_commonwnd {
+
+namespace {
+
+constexpr long kMostInputs = 4;
+constexpr long kMostTracks = 95;
+constexpr long kMostOutputs = 8;
+
+// Pixels at 96 DPI.
+constexpr int kFirstGroupLeftPx = 40;
+constexpr int kPitchPx = 22;
+constexpr int kGroupGapPx = 40;
+constexpr int kRightMarginPx = 14;
+constexpr int kScaleLeftPx = 30; // left of the meters
+constexpr int kMeterTopPx = 86;
+constexpr int kMeterWidthPx = 15;
+constexpr int kMeterHeightPx = 206;
+constexpr int kButtonLeftPx = 3;
+constexpr int kButtonTopPx = 66;
+constexpr int kTitleTopPx = 8;
+constexpr int kLabelLeftPx = 3;
+constexpr int kLabelTopPx = 40;
+constexpr int kPanelTopPx = 36;
+constexpr int kPanelExtraWidthPx = 35;
+constexpr int kPanelLostHeightPx = 46;
+
+} // namespace
+
+CVUFaceLayout::CVUFaceLayout(int inputs, int tracks, int outputs, UINT dpi) {
+    auto px = [dpi](int value) { return _qv_commonctrl::QV_ScaleForDpi(value, dpi); };
+    int x = px(kFirstGroupLeftPx);
+    x = Place(input, inputs, x, dpi);
+    if (inputs > 0)
+        x += px(kGroupGapPx);
+    x = Place(track, tracks, x, dpi);
+    if (tracks > 0)
+        x += px(kGroupGapPx);
+    x = Place(output, outputs, x, dpi);
+    width = x + px(kRightMarginPx);
+}
+
+int CVUFaceLayout::Place(VUGroup& group, int count, int x, UINT dpi) {
+    auto px = [dpi](int value) { return _qv_commonctrl::QV_ScaleForDpi(value, dpi); };
+    if (count <= 0)
+        return x;
+    group.count = count;
+    group.pitch = px(kPitchPx);
+    group.scale = CPoint(x - px(kScaleLeftPx), px(kMeterTopPx));
+    group.firstMeter = CRect(CPoint(x, px(kMeterTopPx)), CSize(px(kMeterWidthPx), px(kMeterHeightPx)));
+    group.firstButton = CPoint(x + px(kButtonLeftPx), px(kButtonTopPx));
+    group.title = CPoint(x, px(kTitleTopPx));
+    group.label = CPoint(x + px(kLabelLeftPx), px(kLabelTopPx));
+    return x + group.pitch * count;
+}
+
+bool IsFacePossible(long inputs, long tracks, long outputs) {
+    return inputs >= 0 && inputs <= kMostInputs && tracks >= 0 && tracks <= kMostTracks && outputs >= 0 &&
+           outputs <= kMostOutputs;
+}
+
+CRect VUPanel(int left, int count, int clientHeight, UINT dpi) {
+    auto px = [dpi](int value) { return _qv_commonctrl::QV_ScaleForDpi(value, dpi); };
+    return CRect(CPoint(left, px(kPanelTopPx)),
+                 CSize(px(kPitchPx) * count + px(kPanelExtraWidthPx), clientHeight - px(kPanelLostHeightPx)));
+}
+
+} // namespace _qv_commonwnd

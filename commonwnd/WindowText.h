@@ -1,0 +1,20 @@
+// Small things that the dialogs do to their controls.
+#pragma once
+
+#include <afxwin.h>
+
+namespace _qv_commonwnd {
+
+// A window's whole text; empty for null or no window.
+CString TextOf(const CWnd* wnd);
+
+// Where a child stands, client pixels of its parent; empty when there is no such child.
+CRect ChildRect(const CWnd& parent, int id);
+
+// Gives a static the skin's label style. Null, or a control that is no skinned static, is left alone.
+void UseLabelStyle(CWnd* control);
+
+// The left-most, top-most `size` of a window becomes its new size; it stays where it is.
+void ResizeInPlace(CWnd& wnd, CSize size);
+
+} // namespace _qv_commonwnd

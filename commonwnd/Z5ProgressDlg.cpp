@@ -1,0 +1,201 @@
+#include "QVProgressDlg.h"
+
+#include "ProgressRules.h"
+#include "TextMailbox.h"
+#include "res/ResourceIds.h"
+
+#include <LWSupportAPI.h>
+#include <QVSkin.h>
+
+#include <atomic>
+
+namespace _qv_commonwnd {
+
+namespace {
+
+constexpr UINT_PTR kTickTimer = 12;
+constexpr UINT kTickMs = 100;
+constexpr int kDefaultRange = 100;
+constexpr int kLargestRange = 1000;
+constexpr int kBarStep = 1;
+
+int s_nDotCount = 0;                  // dots at the next tick; goes on from one window to the next
+TextMailbox s_text;                   // from a worker to the window
+std::atomic<DWORD> s_windowThread{0}; // the thread of the running window, 0: none
+
+// The static members are plain data that other threads store to while the window runs.
+template <class T> T Load(T& value) {
+    return std::atomic_ref<T>(value).load(std::memory_order_relaxed);
+}
+
+template <class T> void Store(T& value, T now) {
+    std::atomic_ref<T>(value).store(now, std::memory_order_relaxed);
+}
+
+void TakeText() {
+    if (const auto text = s_text.Take())
+        CZ5ProgressDlg::strText = text->c_str();
+}
+
+} // namespace
+
+int CZ5ProgressDlg::m_bEndWnd = 0;
+float CZ5ProgressDlg::m_nCurPos = 0.0f;
+int CZ5ProgressDlg::m_nNextPos = 0;
+int CZ5ProgressDlg::m_bExist = 0;
+CString CZ5ProgressDlg::strText;
+
+IMPLEMENT_DYNAMIC(CZ5ProgressDlg, _qv_commonctrl::CQVDialog)
+
+BEGIN_MESSAGE_MAP(CZ5ProgressDlg, _qv_commonctrl::CQVDialog)
+    ON_WM_TIMER()
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+    ON_BN_CLICKED(IDC_PROGRESS_CANCEL, OnBnClickedExist)
+END_MESSAGE_MAP()
+
+void CZ5ProgressDlg::ProgressWndDoModle(wchar_t* title, int range, float step) {
+    CZ5ProgressDlg window(nullptr);
+    if (title)
+        window.m_strTitle = title;
+    if (range >= 1 && range <= kLargestRange)
+        window.m_nRange = range;
+    if (step > 0.0f)
+        window.m_fStep = step;
+    Store(m_bExist, 0);
+    s_windowThread = ::GetCurrentThreadId();
+    window.CDialog::DoModal();
+    s_windowThread = 0;
+    TakeText();
+}
+
+void CZ5ProgressDlg::SetCurPos(int cur, int next) {
+    Store(m_nCurPos, static_cast<float>(cur));
+    Store(m_nNextPos, next > cur ? next : -1);
+}
+
+void CZ5ProgressDlg::SetTextShow(wchar_t* text) {
+    if (!text)
+        return;
+    const DWORD window = s_windowThread;
+    if (window == 0 || window == ::GetCurrentThreadId())
+        strText = text;
+    else
+        s_text.Put(text);
+}
+
+void CZ5ProgressDlg::EndProgressWnd(int end) {
+    Store(m_bEndWnd, end);
+}
+
+int CZ5ProgressDlg::Exist() {
+    return Load(m_bExist);
+}
+
+CZ5ProgressDlg::CZ5ProgressDlg(CWnd* parent) : CQVDialog(IDD_PROGRESS, parent), m_nRange(kDefaultRange) {
+    Store(m_nCurPos, 0.0f);
+}
+
+CZ5ProgressDlg::~CZ5ProgressDlg() = default;
+
+BOOL CZ5ProgressDlg::OnInitDialog() {
+    CQVDialog::OnInitDialog();
+    Store(m_bExist, 0);
+    TakeText();
+    SetWindowText(m_strTitle);
+    m_stText.SetWindowText(strText);
+    m_ctrlProgress.SetRange32(0, m_nRange);
+    m_ctrlProgress.SetPos(0);
+    m_ctrlProgress.SetStep(kBarStep);
+    SetTimer(kTickTimer, kTickMs, nullptr);
+    LayOut();
+    SetDlgItemText(IDC_PROGRESS_CANCEL, LWLoadString(L"PUBLIC_IDCANCEL"));
+    return TRUE;
+}
+
+void CZ5ProgressDlg::LayOut() {
+    CRect client;
+    GetClientRect(&client);
+    CRect message;
+    m_stText.GetWindowRect(&message);
+    ScreenToClient(&message);
+    const ProgressLayout layout = LayOutProgress(client, message, _qv_commonctrl::QV_GetWindowDpi(m_hWnd));
+    m_stText.MoveWindow(layout.message, TRUE);
+    m_ctrlProgress.MoveWindow(layout.bar, TRUE);
+    if (CWnd* cancel = GetDlgItem(IDC_PROGRESS_CANCEL))
+        cancel->MoveWindow(layout.cancel, TRUE);
+}
+
+void CZ5ProgressDlg::OnTimer(UINT_PTR id) {
+    if (id == kTickTimer)
+        Tick();
+    if (Load(m_bEndWnd))
+        RunToEnd();
+    else
+        CQVDialog::OnTimer(id);
+}
+
+void CZ5ProgressDlg::Tick() {
+    const float before = Load(m_nCurPos);
+    ProgressState state = {before, m_fStep, Load(m_nNextPos), m_nRange, m_nSlowLimit};
+    AdvanceProgress(state);
+    // A report that came in between counts more than this step.
+    float expected = before;
+    std::atomic_ref<float>(m_nCurPos).compare_exchange_strong(expected, state.cur);
+    m_fStep = state.step;
+    m_nSlowLimit = state.slowLimit;
+    ShowPosition();
+    TakeText();
+    m_stText.SetWindowText(ProgressMessage(strText, s_nDotCount));
+    s_nDotCount = NextDotCount(s_nDotCount);
+}
+
+void CZ5ProgressDlg::ShowPosition() {
+    m_ctrlProgress.SetPos(BarPosition(Load(m_nCurPos), m_nRange));
+}
+
+// The user sees the bar arrive. A position below the range (or none at all) starts at its lower end.
+void CZ5ProgressDlg::RunToEnd() {
+    float cur = Load(m_nCurPos);
+    if (!(cur > 0.0f))
+        cur = 0.0f;
+    while (static_cast<float>(m_nRange) > cur) {
+        cur += 1.0f;
+        Store(m_nCurPos, cur);
+        ShowPosition();
+        m_ctrlProgress.UpdateWindow();
+    }
+    CDialog::OnOK();
+}
+
+void CZ5ProgressDlg::OnClose() {
+    if (Load(m_bEndWnd))
+        CQVDialog::OnClose();
+}
+
+void CZ5ProgressDlg::OnDestroy() {
+    KillTimer(kTickTimer);
+    CQVDialog::OnDestroy();
+}
+
+void CZ5ProgressDlg::OnBnClickedExist() {
+    Store(m_bExist, 1);
+}
+
+void CZ5ProgressDlg::OnOK() {
+}
+
+void CZ5ProgressDlg::OnCancel() {
+}
+
+void CZ5ProgressDlg::OnSkinChange(UINT reason, HWND wnd) {
+    CQVDialog::OnSkinChange(reason, wnd);
+}
+
+void CZ5ProgressDlg::DoDataExchange(CDataExchange* dx) {
+    CQVDialog::DoDataExchange(dx);
+    DDX_Control(dx, IDC_PROGRESS_TEXT, m_stText);
+    DDX_Control(dx, IDC_PROGRESS_BAR, m_ctrlProgress);
+}
+
+} // namespace _qv_commonwnd
