@@ -2,6 +2,7 @@
 // down.
 #include "GalleryWnd.h"
 
+#include <objbase.h>
 #include <shellapi.h>
 
 using namespace _qv_commonctrl;
@@ -13,7 +14,16 @@ class CGalleryApp : public CWinApp {
     BOOL InitInstance() override {
         INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES | ICC_USEREX_CLASSES};
         InitCommonControlsEx(&controls);
-        const GalleryOptions options = ReadOptions();
+        const bool com =
+            SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)); // codecs and the shell
+        RunGallery(ReadOptions());
+        if (com)
+            ::CoUninitialize();
+        return FALSE; // the modal loop is over: no second one
+    }
+
+  private:
+    void RunGallery(const GalleryOptions& options) {
         if (!options.language.IsEmpty())
             QV_SetLanguage(options.language);
         if (!options.skin.IsEmpty())
@@ -26,10 +36,8 @@ class CGalleryApp : public CWinApp {
             m_pMainWnd = nullptr;
         }
         _qv_commonwnd::QV_ReleaseCommonWnd();
-        return FALSE; // the modal loop is over: no second one
     }
 
-  private:
     static GalleryOptions ReadOptions() {
         int count = 0;
         wchar_t** words = ::CommandLineToArgvW(::GetCommandLineW(), &count);

@@ -1,0 +1,8 @@
+// PictureFile.h: a picture file as a bitmap, by the system's codecs.
+#pragma once
+
+#include <afxwin.h>
+
+// Decodes the first frame of a picture file as a 32-bit bitmap, scaled down to fit `most` (0, 0: as it is). The caller
+// deletes the bitmap. `size` gets the file's own size in pixels. Null, `size` untouched, when it cannot be read.
+HBITMAP LoadPictureFile(LPCWSTR path, CSize most, CSize& size);
