@@ -22,6 +22,12 @@ class CGalleryApp : public CWinApp {
         return FALSE; // the modal loop is over: no second one
     }
 
+    // The last message of the ended loop is no exit code.
+    int ExitInstance() override {
+        CWinApp::ExitInstance();
+        return 0;
+    }
+
   private:
     void RunGallery(const GalleryOptions& options) {
         if (!options.language.IsEmpty())

@@ -8,6 +8,7 @@ GalleryOptions GalleryOptions::Parse(int argc, wchar_t** argv) {
     } switches[] = {{L"--lang", &GalleryOptions::language},
                     {L"--skin", &GalleryOptions::skin},
                     {L"--samples", &GalleryOptions::samples},
+                    {L"--pictures", &GalleryOptions::pictures},
                     {L"--log", &GalleryOptions::log}};
     for (int i = 1; i + 1 < argc; ++i) {
         for (const auto& entry : switches) {

@@ -1,5 +1,6 @@
 #include "GalleryWnd.h"
 
+#include "PictureFile.h"
 #include "res/resource.h"
 
 using namespace _qv_commonctrl;
@@ -40,12 +41,18 @@ CString SkinFolder(LPCWSTR name) {
     return (cut < 0 ? current : current.Left(cut + 1)) + name;
 }
 
+// Sent by a program that takes pictures of the gallery's windows: wParam the window, lParam a global atom with the
+// picture's name. The answer is TRUE when the picture was written.
+const UINT kSavePicture = ::RegisterWindowMessageW(L"QVGallery.SavePicture");
+constexpr int kAtomChars = 256;
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CGalleryWnd, CQVDialog)
     ON_COMMAND_RANGE(IDC_GALLERY_FIRST_ITEM, IDC_GALLERY_FIRST_ITEM + 99, OnItem)
     ON_CBN_SELCHANGE(IDC_GALLERY_LANGUAGE, OnLanguage)
     ON_CBN_SELCHANGE(IDC_GALLERY_SKIN, OnSkin)
+    ON_REGISTERED_MESSAGE(kSavePicture, OnSavePicture)
 END_MESSAGE_MAP()
 
 CGalleryWnd::CGalleryWnd(const GalleryOptions& options)
@@ -213,4 +220,11 @@ void CGalleryWnd::OnSkin() {
     const LRESULT index = SendDlgItemMessage(IDC_GALLERY_SKIN, CB_GETCURSEL, 0, 0);
     if (index >= 0)
         QV_SetSkinPath(SkinFolder(kSkins[index]));
+}
+
+LRESULT CGalleryWnd::OnSavePicture(WPARAM window, LPARAM name) {
+    wchar_t text[kAtomChars] = {};
+    if (m_options.pictures.IsEmpty() || !::GlobalGetAtomNameW(static_cast<ATOM>(name), text, kAtomChars))
+        return FALSE;
+    return SaveWindowPicture(reinterpret_cast<HWND>(window), m_options.pictures + L"\\" + text + L".png");
 }

@@ -24,6 +24,7 @@ class CGalleryWnd : public _qv_commonctrl::CQVDialog, public IGalleryContext {
     afx_msg void OnItem(UINT id);
     afx_msg void OnLanguage();
     afx_msg void OnSkin();
+    afx_msg LRESULT OnSavePicture(WPARAM window, LPARAM name);
     DECLARE_MESSAGE_MAP()
 
   private:

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr UINT kBytesPerPixel = 4;
+
 // Releases a COM pointer at the end of its scope.
 template <class T> class Com {
   public:
@@ -33,18 +35,51 @@ CSize Fit(CSize size, CSize most) {
                  std::max(1, static_cast<int>(size.cy * scale)));
 }
 
-HBITMAP MakeBitmap(IWICBitmapSource* source, CSize size) {
+// A top-down 32-bit bitmap; the caller deletes it.
+HBITMAP CreateBitmap(CSize size, void*& bits) {
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+}
+
+HBITMAP MakeBitmap(IWICBitmapSource* source, CSize size) {
     void* bits = nullptr;
-    const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const UINT stride = static_cast<UINT>(size.cx) * 4;
+    const HBITMAP bitmap = CreateBitmap(size, bits);
+    const UINT stride = static_cast<UINT>(size.cx) * kBytesPerPixel;
     if (bitmap && FAILED(source->CopyPixels(nullptr, stride, stride * static_cast<UINT>(size.cy),
                                             static_cast<BYTE*>(bits)))) {
         ::DeleteObject(bitmap);
         return nullptr;
     }
     return bitmap;
+}
+
+bool WritePng(LPCWSTR path, CSize size, void* bits) {
+    Com<IWICImagingFactory> factory;
+    Com<IWICStream> stream;
+    Com<IWICBitmapEncoder> encoder;
+    Com<IWICBitmapFrameEncode> frame;
+    GUID format = GUID_WICPixelFormat32bppBGRA;
+    const UINT stride = static_cast<UINT>(size.cx) * kBytesPerPixel;
+    const UINT rows = static_cast<UINT>(size.cy);
+    return SUCCEEDED(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                        IID_PPV_ARGS(&factory))) &&
+           SUCCEEDED(factory->CreateStream(&stream)) &&
+           SUCCEEDED(stream->InitializeFromFilename(path, GENERIC_WRITE)) &&
+           SUCCEEDED(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder)) &&
+           SUCCEEDED(encoder->Initialize(stream.Get(), WICBitmapEncoderNoCache)) &&
+           SUCCEEDED(encoder->CreateNewFrame(&frame, nullptr)) && SUCCEEDED(frame->Initialize(nullptr)) &&
+           SUCCEEDED(frame->SetSize(static_cast<UINT>(size.cx), rows)) &&
+           SUCCEEDED(frame->SetPixelFormat(&format)) &&
+           SUCCEEDED(frame->WritePixels(rows, stride, stride * rows, static_cast<BYTE*>(bits))) &&
+           SUCCEEDED(frame->Commit()) && SUCCEEDED(encoder->Commit());
+}
+
+// The drawing functions leave the alpha of what they touch undefined.
+void MakeOpaque(void* bits, CSize size) {
+    auto* pixels = static_cast<DWORD*>(bits);
+    for (int i = 0; i < size.cx * size.cy; ++i)
+        pixels[i] |= 0xFF000000u;
 }
 
 } // namespace
@@ -76,4 +111,26 @@ HBITMAP LoadPictureFile(LPCWSTR path, CSize most, CSize& size) {
     if (bitmap)
         size = whole;
     return bitmap;
+}
+
+bool SaveWindowPicture(HWND window, LPCWSTR path) {
+    CRect frame;
+    if (!::GetWindowRect(window, &frame) || frame.IsRectEmpty())
+        return false;
+    void* bits = nullptr;
+    const HBITMAP bitmap = CreateBitmap(frame.Size(), bits);
+    if (!bitmap)
+        return false;
+    const HDC source = ::GetDCEx(window, nullptr, DCX_WINDOW | DCX_CACHE);
+    const HDC target = ::CreateCompatibleDC(source);
+    const HGDIOBJ old = ::SelectObject(target, bitmap);
+    ::BitBlt(target, 0, 0, frame.Width(), frame.Height(), source, 0, 0, SRCCOPY);
+    ::SelectObject(target, old);
+    ::DeleteDC(target);
+    ::ReleaseDC(window, source);
+    ::GdiFlush();
+    MakeOpaque(bits, frame.Size());
+    const bool written = WritePng(path, frame.Size(), bits);
+    ::DeleteObject(bitmap);
+    return written;
 }

@@ -27,9 +27,10 @@ std::wstring pictureFolder() {
 
 GallerySession::GallerySession(const Look& look) : m_look(look) {
     makeSamples();
-    const std::wstring arguments = L"--lang " + look.language + L" --skin " + look.skin + L" --samples " +
-                                   quoted(m_samples.path()) + L" --log " +
-                                   quoted(m_logFolder.path(L"log.txt"));
+    const std::wstring arguments =
+        L"--lang " + look.language + L" --skin " + look.skin + L" --samples " + quoted(m_samples.path()) +
+        (pictureFolder().empty() ? L"" : L" --pictures " + quoted(pictureFolder())) + L" --log " +
+        quoted(m_logFolder.path(L"log.txt"));
     m_process = std::make_unique<ChildProcess>(QV_GALLERY_EXE, arguments);
     if (!m_process->started())
         m_user.fail("the gallery could not be started");
@@ -111,11 +112,14 @@ void GallerySession::picture(HWND window, const std::wstring& name) {
     if (folder.empty())
         return;
     m_user.settle();
-    RECT frame = {};
-    ::GetWindowRect(window, &frame);
-    const std::wstring file = folder + L"\\" + name + L"-" + m_look.skin + L"-" + m_look.language + L".png";
-    if (!Picture::ofScreen(frame).save(file))
-        m_user.fail("no picture could be written to " + toUtf8(file));
+    // Only the program itself can read its windows' pixels.
+    const std::wstring file = name + L"-" + m_look.skin + L"-" + m_look.language;
+    const ATOM atom = ::GlobalAddAtomW(file.c_str());
+    const LRESULT saved = m_user.send(m_main, ::RegisterWindowMessageW(L"QVGallery.SavePicture"),
+                                      reinterpret_cast<WPARAM>(window), atom);
+    ::GlobalDeleteAtom(atom);
+    if (!saved)
+        m_user.fail("no picture could be written of " + toUtf8(file));
 }
 
 DWORD GallerySession::close() {

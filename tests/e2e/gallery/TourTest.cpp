@@ -21,8 +21,9 @@ class Tour : public testing::TestWithParam<Look> {
   protected:
     void SetUp() override { m_session = std::make_unique<GallerySession>(GetParam()); }
     void TearDown() override {
-        if (m_session)
+        if (m_session) {
             EXPECT_EQ(0u, m_session->close());
+        }
     }
     GallerySession& session() { return *m_session; }
     Driver& user() { return m_session->user(); }
