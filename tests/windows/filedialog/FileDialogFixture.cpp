@@ -50,8 +50,17 @@ void FileDialog::Confirm(Driver& user, const std::wstring& name) {
 
 void FileDialog::ChooseFilter(Driver& user, HWND frame, int index) {
     const HWND combo = ::GetDlgItem(frame, kFileTypeCombo);
-    user.send(combo, CB_SETCURSEL, static_cast<WPARAM>(index));
-    user.send(frame, WM_COMMAND, MAKEWPARAM(kFileTypeCombo, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+    // By keys, as a user does it: the system dialog looks at more than one of the notifications that they cause.
+    user.onUi([&] { ::SetFocus(combo); });
+    const LRESULT count = user.send(combo, CB_GETCOUNT);
+    if (index == count - 1) {
+        user.press(VK_END);
+    } else {
+        user.press(VK_HOME);
+        for (int i = 0; i < index; ++i)
+            user.press(VK_DOWN);
+    }
+    user.waitFor("the file type", [&] { return user.send(combo, CB_GETCURSEL) == index; });
     user.settle();
 }
 

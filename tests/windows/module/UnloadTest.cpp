@@ -69,16 +69,11 @@ class Unload : public testing::Test {
         for (const wchar_t* name : kOurModules)
             if (const HMODULE module = GetModuleHandleW(name))
                 m_modules.push_back(module);
-        const std::size_t classesOfAll = ClassesSeenBy(NoModule()).size();
-        m_classesInUse = 0;
-        for (const HMODULE module : m_modules)
-            m_classesInUse += ClassesSeenBy(module).size() - classesOfAll;
         EXPECT_NE(nullptr, GetModuleHandleW(L"QVCommonWndU.dll"));
         FreeLibrary(user);
     }
 
     std::vector<HMODULE> m_modules;
-    std::size_t m_classesInUse = 0;
 };
 
 TEST_F(Unload, LeavesNoModule) {
@@ -91,13 +86,29 @@ TEST_F(Unload, LeavesNoWindowClass) {
     // The system's libraries that come with ours register classes for all modules at their first load.
     const LoadedLibrary commonDialogs(L"comdlg32.dll");
     const LoadedLibrary shell(L"shell32.dll");
-    const std::set<unsigned> before = ClassesSeenBy(NoModule());
+    const HINSTANCE program = GetModuleHandleW(nullptr);
+    const std::set<unsigned> ofAll = ClassesSeenBy(NoModule());
+    const std::set<unsigned> ofProgram = ClassesSeenBy(program);
     LoadUseFree();
-    EXPECT_EQ(before, ClassesSeenBy(NoModule()));
+    EXPECT_EQ(ofAll, ClassesSeenBy(NoModule()));
+    EXPECT_EQ(ofProgram, ClassesSeenBy(program));
     ASSERT_FALSE(m_modules.empty());
     for (const HMODULE module : m_modules)
-        EXPECT_EQ(before, ClassesSeenBy(module));
-    EXPECT_GT(m_classesInUse, 0u) << "no class was seen while the product was in use: the look is blind";
+        EXPECT_EQ(ofAll, ClassesSeenBy(module));
+}
+
+// Without this the test above could pass because it sees nothing.
+TEST_F(Unload, ClassOfAModuleIsSeen) {
+    const HINSTANCE program = GetModuleHandleW(nullptr);
+    WNDCLASSW wc = {};
+    wc.lpfnWndProc = DefWindowProcW;
+    wc.hInstance = program;
+    wc.lpszClassName = L"QVModuleTestClass";
+    const ATOM atom = RegisterClassW(&wc);
+    ASSERT_NE(0, atom);
+    EXPECT_EQ(1u, ClassesSeenBy(program).count(atom));
+    EXPECT_EQ(0u, ClassesSeenBy(NoModule()).count(atom));
+    UnregisterClassW(wc.lpszClassName, program);
 }
 
 TEST_F(Unload, LeavesNoHandleWindowOrDrawingObject) {
