@@ -121,6 +121,7 @@ bool SaveWindowPicture(HWND window, LPCWSTR path) {
     const HBITMAP bitmap = CreateBitmap(frame.Size(), bits);
     if (!bitmap)
         return false;
+    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const HDC source = ::GetDCEx(window, nullptr, DCX_WINDOW | DCX_CACHE);
     const HDC target = ::CreateCompatibleDC(source);
     const HGDIOBJ old = ::SelectObject(target, bitmap);

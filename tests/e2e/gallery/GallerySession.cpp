@@ -80,8 +80,18 @@ void GallerySession::open(const std::wstring& item) {
     if (!id)
         m_user.fail("the gallery has no entry " + toUtf8(item));
     m_openedAt = readLog().size();
+    waitReady();
     m_user.click(m_main, id);
     m_user.waitFor("the entry " + toUtf8(item) + " to start", [&] { return !values(L"open").empty(); });
+}
+
+// Input that arrives while windows come and go may be lost on the way: wait until the gallery is in front and idle.
+void GallerySession::waitReady() {
+    m_user.waitFor("the gallery to be in front", [this] {
+        return ::GetForegroundWindow() == m_main && ::IsWindowEnabled(m_main) && ::IsWindowVisible(m_main);
+    });
+    m_user.send(m_main, WM_NULL);
+    m_user.settle();
 }
 
 HWND GallerySession::waitDialog(HWND behind) {

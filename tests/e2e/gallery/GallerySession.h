@@ -49,6 +49,7 @@ class GallerySession {
     };
     std::vector<Line> readLog() const;
     void makeSamples();
+    void waitReady();
 
     Look m_look;
     qvtest::TempFolder m_samples;

@@ -33,6 +33,7 @@ class Tour : public testing::TestWithParam<Look> {
         const HWND combo = user().waitControl(dialog, kFileName);
         const HWND edit = user().waitDescendant(combo, L"Edit");
         user().replaceText(edit, text);
+        user().waitText(edit, text);
     }
 
     std::wstring sample(const std::wstring& name) const { return m_session->samples().path(name); }
