@@ -12,7 +12,7 @@ stamp_of_sources() { git -C "$QV_ROOT" log -1 --format=%ct 2>/dev/null || printf
 
 main() {
     need_packages "${BUILD_PACKAGES[@]}" "${ZIP_PACKAGES[@]}"
-    build_tree mingw || die "the build failed"
+    build_tree mingw qv_runnable || die "the build failed"
     local version name tree
     version=$(sed -n 's/^project(QVCommonWnd VERSION \([0-9.]*\).*/\1/p' "$QV_ROOT/CMakeLists.txt")
     name=QVCommonWnd-$version-win64

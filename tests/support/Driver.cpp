@@ -6,6 +6,7 @@ namespace {
 constexpr DWORD kPollMs = 5;
 constexpr DWORD kSettlePollMs = 1;
 constexpr Milliseconds kSettleLimit{3000};
+constexpr DWORD kForeignSettleMs = 20;
 constexpr UINT kSendLimitMs = 10000;
 constexpr int kDragSteps = 8;
 
@@ -96,8 +97,10 @@ void Driver::waitFocus(HWND window, Milliseconds limit) {
 
 // A timer message comes only when no other message is waiting: then the input has been handled.
 void Driver::settle() {
-    if (!m_helper)
+    if (!m_helper) {
+        settleForeign();
         return;
+    }
     const LONG_PTR serial = ++m_serial;
     PostMessageW(m_helper, kSettleMessage, static_cast<WPARAM>(serial), 0);
     const auto deadline = std::chrono::steady_clock::now() + kSettleLimit;
@@ -106,6 +109,13 @@ void Driver::settle() {
         if (WaitForSingleObject(m_ended, kSettlePollMs) == WAIT_OBJECT_0)
             return;
     }
+}
+
+// Another process cannot be asked whether its queue is empty: it gets a moment, and must then answer a message.
+void Driver::settleForeign() const {
+    Sleep(kForeignSettleMs);
+    SendMessageTimeoutW(GetForegroundWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG,
+                        static_cast<UINT>(kSettleLimit.count()), nullptr);
 }
 
 void Driver::click(HWND control) {

@@ -89,6 +89,7 @@ class Driver {
   private:
     bool loopEnded() const;
     void pause() const;
+    void settleForeign() const;
 
     HWND m_helper = nullptr;
     HANDLE m_ended = nullptr;
