@@ -42,15 +42,15 @@ BOOL CResourceException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, UINT*
 
 void AFXAPI AfxThrowMemoryException() {
     static CMemoryException exception(FALSE);
-    throw &exception;
+    throw &exception; // NOLINT(misc-throw-by-value-catch-by-reference): the framework throws pointers
 }
 
 void AFXAPI AfxThrowInvalidArgException() {
     static CInvalidArgException exception(FALSE);
-    throw &exception;
+    throw &exception; // NOLINT(misc-throw-by-value-catch-by-reference): the framework throws pointers
 }
 
 void AFXAPI AfxThrowResourceException() {
     static CResourceException exception(FALSE);
-    throw &exception;
+    throw &exception; // NOLINT(misc-throw-by-value-catch-by-reference): the framework throws pointers
 }

@@ -33,8 +33,7 @@ CBrush::CBrush(int nIndex, COLORREF crColor) {
 }
 
 CBrush::CBrush(CBitmap* pBitmap) {
-    if (!CreatePatternBrush(pBitmap))
-        AfxThrowResourceException();
+    AttachNewOrThrow(pBitmap ? ::CreatePatternBrush(*pBitmap) : nullptr);
 }
 
 BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {

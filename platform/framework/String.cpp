@@ -14,6 +14,12 @@ int UnitsOfNarrow(LPCSTR psz, int nBytes) {
     return nBytes > 0 ? ::MultiByteToWideChar(kAnsi, 0, psz, nBytes, nullptr, 0) : 0;
 }
 
+void* Had(void* memory) {
+    if (!memory)
+        AfxThrowMemoryException();
+    return memory;
+}
+
 } // namespace
 
 // Constant-initialised: strings may be made by static constructors of any module in any order.
@@ -62,7 +68,7 @@ CString& CString::operator=(const CString& strSrc) {
     return *this;
 }
 
-CString& CString::operator=(CString&& strSrc) {
+CString& CString::operator=(CString&& strSrc) noexcept {
     if (Head(m_pszData)->refs == kLocked)
         SetString(strSrc, strSrc.GetLength());
     else
@@ -219,9 +225,7 @@ __attribute__((noinline)) void CString::Free(Header* head) noexcept {
 // A buffer of one owner and length 0; the caller sets both text and length.
 LPWSTR CString::Allocate(int nCapacity) {
     const size_t bytes = sizeof(Header) + (static_cast<size_t>(nCapacity) + 1) * sizeof(WCHAR);
-    Header* const head = static_cast<Header*>(std::malloc(bytes));
-    if (!head)
-        AfxThrowMemoryException();
+    Header* const head = static_cast<Header*>(Had(std::malloc(bytes)));
     *head = Header{1, 0, nCapacity, 0};
     LPWSTR const text = reinterpret_cast<LPWSTR>(head + 1);
     text[0] = text[nCapacity] = L'\0';
@@ -240,9 +244,7 @@ int CString::GrownCapacity(int nOld, int nNeeded) noexcept {
 // More room for a text that has one owner, in place where the heap allows it.
 void CString::Grow(int nCapacity) {
     const size_t bytes = sizeof(Header) + (static_cast<size_t>(nCapacity) + 1) * sizeof(WCHAR);
-    Header* const head = static_cast<Header*>(std::realloc(Head(m_pszData), bytes));
-    if (!head)
-        AfxThrowMemoryException();
+    Header* const head = static_cast<Header*>(Had(std::realloc(Head(m_pszData), bytes)));
     head->capacity = nCapacity;
     m_pszData = reinterpret_cast<LPWSTR>(head + 1);
 }

@@ -10,6 +10,8 @@ namespace {
 constexpr UINT kStringsPerBlock = 16; // string resources are stored in blocks of so many
 
 LPCWSTR BlockName(UINT nID) {
+    // Names of resources are numbers or texts: the platform tells them apart by their size.
+    // cppcheck-suppress CastIntegerToAddressAtReturn
     return MAKEINTRESOURCEW(nID / kStringsPerBlock + 1);
 }
 

@@ -90,10 +90,8 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray : public CObjec
     }
     void InsertAt(INT_PTR nStartIndex, CArray* pNewArray) {
         CheckStart(nStartIndex);
-        if (!pNewArray)
-            AfxThrowInvalidArgException();
         CArray source;
-        source.Append(*pNewArray); // the array may be inserted into itself
+        source.Append(*Checked(pNewArray)); // the array may be inserted into itself
         if (source.m_nSize == 0)
             return;
         OpenGap(nStartIndex, source.m_nSize);
@@ -117,6 +115,11 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray : public CObjec
         if (nIndex < 0 || nIndex >= m_nSize)
             AfxThrowInvalidArgException();
         return nIndex;
+    }
+    static const CArray* Checked(const CArray* pArray) {
+        if (!pArray)
+            AfxThrowInvalidArgException();
+        return pArray;
     }
     static void CheckStart(INT_PTR nIndex) {
         if (nIndex < 0 || nIndex == INTPTR_MAX)

@@ -90,9 +90,7 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap : p
         return node ? &node->pair : nullptr;
     }
     const CPair* PGetNextAssoc(POSITION& rNextPosition) const {
-        Node* const node = reinterpret_cast<Node*>(rNextPosition);
-        if (!node)
-            AfxThrowInvalidArgException();
+        Node* const node = Checked(reinterpret_cast<Node*>(rNextPosition));
         Node* const next = node->next ? node->next : FirstFrom(Bucket(node->pair.key) + 1);
         rNextPosition = reinterpret_cast<POSITION>(next);
         return &node->pair;
@@ -105,6 +103,11 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap : p
     };
     static constexpr UINT kDefaultTableSize = 17;
 
+    static Node* Checked(Node* node) {
+        if (!node)
+            AfxThrowInvalidArgException();
+        return node;
+    }
     UINT Bucket(ARG_KEY key) const { return HashKey<ARG_KEY>(key) % m_nTableSize; }
     void EnsureTable() {
         if (!m_table)

@@ -48,7 +48,7 @@ class AFXFRAME_API CString {
 
     // ---- Assignment.
     CString& operator=(const CString& strSrc);
-    CString& operator=(CString&& strSrc);
+    CString& operator=(CString&& strSrc) noexcept;
     CString& operator=(LPCWSTR pszSrc);
     CString& operator=(LPCSTR pszSrc);
     CString& operator=(const unsigned char* pszSrc);
