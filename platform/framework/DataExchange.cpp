@@ -4,6 +4,7 @@
 #include <cwchar>
 #include <cerrno>
 #include <limits>
+#include <type_traits>
 
 HWND CDataExchange::PrepareCtrl(int nIDC) {
     const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
@@ -68,18 +69,17 @@ template <class T> bool ParseWhole(const CString& text, T& value) {
         return false;
     wchar_t* end = nullptr;
     errno = 0;
-    if constexpr (std::is_unsigned_v<T>) {
-        const unsigned long long parsed = wcstoull(start, &end, 10);
-        if (parsed > std::numeric_limits<T>::max())
-            return false;
-        value = static_cast<T>(parsed);
-    } else {
-        const long long parsed = wcstoll(start, &end, 10);
-        if (parsed < std::numeric_limits<T>::min() || parsed > std::numeric_limits<T>::max())
-            return false;
-        value = static_cast<T>(parsed);
-    }
-    return end != start && errno == 0 && OnlyBlanks(end);
+    using Widest = std::conditional_t<std::is_unsigned_v<T>, unsigned long long, long long>;
+    Widest parsed;
+    if constexpr (std::is_unsigned_v<T>)
+        parsed = wcstoull(start, &end, 10);
+    else
+        parsed = wcstoll(start, &end, 10);
+    if (end == start || errno != 0 || !OnlyBlanks(end) || parsed < std::numeric_limits<T>::min() ||
+        parsed > std::numeric_limits<T>::max())
+        return false;
+    value = static_cast<T>(parsed);
+    return true;
 }
 
 template <class T> bool ParseReal(const CString& text, T& value) {
@@ -88,8 +88,11 @@ template <class T> bool ParseReal(const CString& text, T& value) {
     const double parsed = wcstod(start, &end);
     if (end == start || !std::isfinite(parsed) || !OnlyBlanks(end))
         return false;
-    value = static_cast<T>(parsed);
-    return std::isfinite(value);
+    const T narrowed = static_cast<T>(parsed);
+    if (!std::isfinite(narrowed))
+        return false;
+    value = narrowed;
+    return true;
 }
 
 template <class T> void ExchangeWhole(CDataExchange* pDX, int nIDC, T& value) {

@@ -76,9 +76,11 @@ INT_PTR CDialog::DoModal() {
     const HWND owner = PreModal();
     const HWND top = m_hWndTop;
     DisabledOwner disabled(owner);
+    TemporaryWindows& temporaries = AfxThreadState::Get().temporaryWindows;
+    const unsigned long long firstTemporary = temporaries.NextSerial();
     const WndWatch watch(this);
     m_nModalResult = -1;
-    m_nFlags |= WF_CONTINUEMODAL;
+    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
     const BOOL created = CreateDlgIndirect(found, owner, hInst);
     if (created && watch.IsAlive() && (m_nFlags & WF_CONTINUEMODAL)) {
         // A window destroyed from outside ends the run like a cancel.
@@ -101,5 +103,6 @@ INT_PTR CDialog::DoModal() {
     if (wasActive && owner)
         ::SetActiveWindow(owner);
     DestroyWindow();
+    temporaries.RemoveSince(firstTemporary); // those of the run; its callers may hold older ones
     return result;
 }

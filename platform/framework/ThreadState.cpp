@@ -90,6 +90,11 @@ void TemporaryWindows::RemoveSince(unsigned long long serial) {
     std::erase_if(m_windows, [&](const auto& item) { return isNewer(item.second); });
 }
 
+void TemporaryWindows::RemoveDead() {
+    std::erase_if(m_windows, [](const auto& item) { return !::IsWindow(item.first); });
+    m_retired.clear();
+}
+
 WndWatch::WndWatch(CWnd* pWnd) : m_pWnd(pWnd), m_pOuter(AfxThreadState::Get().watches) {
     AfxThreadState::Get().watches = this;
 }

@@ -28,6 +28,8 @@ class TemporaryWindows {
     void Retire(HWND hWnd, const CWnd* pWnd);
     unsigned long long NextSerial() const { return m_nextSerial; }
     void RemoveSince(unsigned long long serial);
+    // Those whose window is gone. Programs that run a loop of their own have no other clean-up.
+    void RemoveDead();
     size_t Count() const { return m_windows.size() + m_retired.size(); }
 
   private:
@@ -63,6 +65,7 @@ struct AfxThreadState {
     std::unordered_map<HWND, WNDPROC> orphanProcedures;
     MessageCache messageCache;
     MSG currentMessage = {};
+    int callDepth = 0; // handlers on the stack
     MSG pumpedMessage = {};
     POINT lastMousePos = {};
     UINT lastPumpedMessage = 0;

@@ -31,11 +31,17 @@ LRESULT OnFrameworkException(AfxThreadState& state, CException* e) noexcept {
     return result;
 }
 
+// Dead temporary objects are looked for when so many have gathered.
+constexpr size_t kManyTemporaries = 64;
+
 // A window that is gone must not stay connected, whatever its handlers did.
 void ForgetDestroyed(AfxThreadState& state, HWND hWnd) {
     state.orphanProcedures.erase(hWnd);
     if (CWnd* const pWnd = state.permanentWindows.Find(hWnd))
         pWnd->Detach();
+    // With no handler on the stack nobody holds the object of a dead window.
+    if (state.callDepth == 0 && state.temporaryWindows.Count() >= kManyTemporaries)
+        state.temporaryWindows.RemoveDead();
 }
 
 bool IsInputMethodClass(const wchar_t* className) {
@@ -67,6 +73,7 @@ LRESULT AfxCallWndProc(AfxThreadState& state, CWnd* pWnd, HWND hWnd, UINT messag
     state.currentMessage.message = message;
     state.currentMessage.wParam = wParam;
     state.currentMessage.lParam = lParam;
+    ++state.callDepth;
     LRESULT result = 0;
     try {
         result = AfxWndAccess::Call(pWnd, message, wParam, lParam);
@@ -80,6 +87,7 @@ LRESULT AfxCallWndProc(AfxThreadState& state, CWnd* pWnd, HWND hWnd, UINT messag
         result = AnswerAfterException(state.currentMessage);
     }
     state.currentMessage = outer;
+    --state.callDepth;
     return result;
 }
 

@@ -41,7 +41,9 @@ class AFXFRAME_API AFX_MAINTAIN_STATE2 {
     AFX_MODULE_STATE* m_pPrevModuleState;
 };
 
-#define AFX_MANAGE_STATE(p) AFX_MAINTAIN_STATE2 _ctlState(p);
+#define AFX_JOIN_(a, b) a##b
+#define AFX_NAME_BY_LINE_(name, line) AFX_JOIN_(name, line)
+#define AFX_MANAGE_STATE(p) const AFX_MAINTAIN_STATE2 AFX_NAME_BY_LINE_(_ctlState, __LINE__)(p);
 
 // One per extension module, zero-initialised, with the life of the module.
 //
