@@ -76,8 +76,7 @@ INT_PTR CDialog::DoModal() {
     const HWND owner = PreModal();
     const HWND top = m_hWndTop;
     DisabledOwner disabled(owner);
-    TemporaryWindows& temporaries = AfxThreadState::Get().temporaryWindows;
-    const unsigned long long firstTemporary = temporaries.NextSerial();
+    const TemporaryScope temporaries;
     const WndWatch watch(this);
     m_nModalResult = -1;
     m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
@@ -103,6 +102,6 @@ INT_PTR CDialog::DoModal() {
     if (wasActive && owner)
         ::SetActiveWindow(owner);
     DestroyWindow();
-    temporaries.RemoveSince(firstTemporary); // those of the run; its callers may hold older ones
+    temporaries.Remove(); // those of the run; its callers may hold older ones
     return result;
 }

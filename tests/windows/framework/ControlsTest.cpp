@@ -44,8 +44,8 @@ TEST_F(Controls, ListView) {
     EXPECT_TRUE(header.GetOrderArray(order));
     EXPECT_EQ(1, order[1]);
     CRect bounds;
-    EXPECT_TRUE(list.GetItemRect(0, &bounds, LVIR_BOUNDS));
-    EXPECT_EQ(0, list.HitTest(CPoint(bounds.left + 3, bounds.CenterPoint().y)));
+    EXPECT_TRUE(list.GetItemRect(1, &bounds, LVIR_LABEL));
+    EXPECT_EQ(1, list.HitTest(bounds.CenterPoint()));
 }
 
 TEST_F(Controls, TreeView) {
