@@ -71,21 +71,30 @@ void ScrollOverlay::Show(const CRect& screenRect, const OverlayPicture& picture)
     CRect place = screenRect;
     if (!topLevel)
         MapWindowPoints(nullptr, m_parent, reinterpret_cast<POINT*>(&place), 2);
-    // Just above the target: other siblings that the target is below stay above the overlay, too.
     HWND above = topLevel ? HWND_TOPMOST : GetWindow(m_target, GW_HWNDPREV);
     if (!above)
         above = HWND_TOP;
     UINT flags = SWP_NOACTIVATE | SWP_SHOWWINDOW | SWP_NOOWNERZORDER;
-    if (above == m_wnd)
+    if (!topLevel && IsJustAboveTarget())
         flags |= SWP_NOZORDER;
     const bool shown = (GetWindowLongPtrW(m_wnd, GWL_STYLE) & WS_VISIBLE) != 0;
-    if (!shown || m_rect != place || !(flags & SWP_NOZORDER))
+    const bool misplaced = !topLevel && !(flags & SWP_NOZORDER);
+    if (!shown || m_rect != place || misplaced)
         SetWindowPos(m_wnd, above, place.left, place.top, place.Width(), place.Height(), flags);
     if (!shown || m_rect != place || m_picture != picture) {
         m_rect = place;
         m_picture = picture;
         Repaint();
     }
+}
+
+// Other siblings that lie above the target stay above the overlay, too; only overlays may be between the two.
+bool ScrollOverlay::IsJustAboveTarget() const {
+    HWND wnd = GetWindow(m_target, GW_HWNDPREV);
+    while (wnd && wnd != m_wnd &&
+           GetWindowLongPtrW(wnd, GWLP_WNDPROC) == GetWindowLongPtrW(m_wnd, GWLP_WNDPROC))
+        wnd = GetWindow(wnd, GW_HWNDPREV);
+    return wnd == m_wnd;
 }
 
 void ScrollOverlay::Hide() {

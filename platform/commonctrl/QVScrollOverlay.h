@@ -35,6 +35,7 @@ class ScrollOverlay {
   private:
     static LRESULT CALLBACK WindowProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam);
     bool CreateWindowOnce();
+    bool IsJustAboveTarget() const;
     void OnPaint();
 
     HWND m_target;

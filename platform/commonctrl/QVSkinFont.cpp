@@ -97,7 +97,11 @@ SkinFontPool& SkinFontPool::Get() {
 CFont* SkinFontPool::Find(int index, UINT dpi) {
     constexpr std::size_t kMostAnswers = 256;
     dpi = dpi == 0 ? USER_DEFAULT_SCREEN_DPI : std::min(dpi, kMaxDpi);
-    const Request request(SkinStore::Get().Generation(), GetLanguageGeneration(), index, dpi);
+    const State state(SkinStore::Get().Generation(), GetLanguageGeneration());
+    if (state != m_state)
+        m_answers.clear();
+    m_state = state;
+    const Request request(index, dpi);
     if (const auto found = m_answers.find(request); found != m_answers.end())
         return found->second;
     if (m_answers.size() >= kMostAnswers)

@@ -21,13 +21,15 @@ class SkinFontPool {
 
   private:
     using Shape = std::tuple<std::wstring, LONG, LONG>; // face, height in pixels, weight
-    using Request = std::tuple<UINT, UINT, int, UINT>;  // generations of skin and language, index, DPI
+    using Request = std::pair<int, UINT>;               // index, DPI
+    using State = std::pair<UINT, UINT>;                // generations of skin and language
 
     CFont* Make(int index, UINT dpi);
     CFont* OfShape(const Shape& shape);
 
     std::map<Shape, std::unique_ptr<CFont>> m_fonts;
-    std::map<Request, CFont*> m_answers;
+    std::map<Request, CFont*> m_answers; // of one state
+    State m_state;
 };
 
 // Whether a text holds a Chinese, Japanese or Korean character.
