@@ -21,6 +21,7 @@ void CQVListCtrl::PreSubclassWindow() {
 }
 
 void CQVListCtrl::SetUp() {
+    ModifyStyle(0, WS_CLIPCHILDREN); // the picture of the rows must not cover the header
     ApplyColors();
     TakeHeader();
     QV_ReplaceWnd(m_hWnd);

@@ -1,0 +1,429 @@
+// The directory tree and list over real folders.
+#include "SkinFixture.h"
+
+#include "LeakGuard.h"
+#include "ModalScript.h"
+#include "Picture.h"
+#include "TempFolder.h"
+
+#include <atomic>
+#include <cstdio>
+
+using namespace _qv_commonctrl;
+using qvtest::Driver;
+using qvtest::ModalScript;
+using qvtest::Picture;
+using qvtest::TempFolder;
+
+namespace {
+
+constexpr DWORD kTreeStyle =
+    WS_CHILD | WS_VISIBLE | WS_BORDER | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT;
+
+// Blocks the listing of folders whose path ends with \dead until it is let go.
+class DeadFolder {
+  public:
+    DeadFolder() {
+        s_release = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+        s_running = 0;
+        QV_SetFolderLister(&List);
+    }
+    ~DeadFolder() {
+        SetEvent(s_release);
+        while (s_running)
+            Sleep(5);
+        QV_SetFolderLister(nullptr);
+        CloseHandle(s_release);
+    }
+
+  private:
+    static QVListerAnswer CALLBACK List(LPCWSTR folder, QVAddFolderEntry add, void* context) {
+        if (!std::wstring(folder).ends_with(L"\\dead"))
+            return QVLISTER_ASK_SYSTEM;
+        ++s_running;
+        WaitForSingleObject(s_release, 30000);
+        add(context, L"late", TRUE);
+        --s_running;
+        return QVLISTER_LISTED;
+    }
+    static inline HANDLE s_release = nullptr;
+    static inline std::atomic<int> s_running = 0;
+};
+
+class DirTree : public SkinFixture {
+  protected:
+    void SetUp() override {
+        SkinFixture::SetUp();
+        ASSERT_TRUE(m_tree.Create(kTreeStyle, CRect(20, 20, 380, 280), &m_host, 0));
+        m_tree.SetFont(QV_GetSysFont(QVFONT_UI));
+        m_tree.SetTreeCtrl(1);
+        ASSERT_TRUE(m_tree.SetDesktopFolder());
+        m_tree.SelectItem(m_tree.GetRootItem());
+        ASSERT_TRUE(
+            TestHost::PumpUntil([&] { return m_tree.GetChildItem(m_tree.GetRootItem()) != nullptr; }));
+    }
+    void TearDown() override {
+        m_tree.DestroyWindow();
+        SkinFixture::TearDown();
+    }
+
+    std::vector<std::wstring> childrenOf(HTREEITEM item) const {
+        std::vector<std::wstring> names;
+        for (HTREEITEM child = m_tree.GetChildItem(item); child; child = m_tree.GetNextSiblingItem(child))
+            names.push_back(m_tree.GetItemText(child).GetString());
+        return names;
+    }
+
+    bool expanded(HTREEITEM item) const {
+        return (m_tree.GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED) && m_tree.GetChildItem(item);
+    }
+
+    TestHost m_host;
+    CQVComboDTBox m_tree;
+};
+
+TEST_F(DirTree, RootIsTheDesktopWithTheComputer) {
+    const HTREEITEM root = m_tree.GetRootItem();
+    ASSERT_NE(nullptr, root);
+    EXPECT_FALSE(m_tree.GetItemText(root).IsEmpty());
+    EXPECT_TRUE(expanded(root));
+    EXPECT_FALSE(m_tree.GetPathName().IsEmpty()); // the desktop's own folder
+    EXPECT_FALSE(childrenOf(root).empty());
+}
+
+TEST_F(DirTree, GoesToAPathAndTellsIt) {
+    const TempFolder folder;
+    folder.folder(L"Alpha\\Beta");
+    const std::wstring path = folder.path(L"Alpha\\Beta");
+    ASSERT_TRUE(m_tree.SetPathName(path.c_str()));
+    EXPECT_STREQ(path.c_str(), m_tree.GetPathName());
+    EXPECT_STREQ(L"Beta", m_tree.GetItemText(m_tree.GetSelectedItem()));
+    const HTREEITEM before = m_tree.GetSelectedItem();
+    EXPECT_TRUE(m_tree.SetPathName((path + L"\\").c_str()));
+    std::wstring upper = path;
+    CharUpperW(upper.data());
+    EXPECT_TRUE(m_tree.SetPathName(upper.c_str()));
+    EXPECT_EQ(before, m_tree.GetSelectedItem());
+    Picture::ofWindow(m_tree.m_hWnd).save(qvtest::picturePath(L"dirtree"));
+}
+
+TEST_F(DirTree, PathsThatAreNotThereChangeNothing) {
+    const TempFolder folder;
+    folder.file(L"file.txt", "x");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const CString before = m_tree.GetPathName();
+    for (const std::wstring& path :
+         {folder.path(L"nowhere"), folder.path(L"file.txt"), std::wstring(L""), std::wstring(L"relative"),
+          std::wstring(L"\\"), std::wstring(L"Q:\\no\\drive"), folder.path(L".."), std::wstring(5000, L'x'),
+          L"C:\\" + std::wstring(40000, L'y'), std::wstring(L"\\\\"), std::wstring(L"::{}")}) {
+        EXPECT_FALSE(m_tree.SetPathName(path.c_str())) << testing::PrintToString(path.substr(0, 60));
+        EXPECT_EQ(before, m_tree.GetPathName());
+    }
+    EXPECT_FALSE(m_tree.SetPathName(nullptr));
+}
+
+TEST_F(DirTree, ExpandsLazilySortedWithoutFiles) {
+    const TempFolder folder;
+    for (const wchar_t* name : {L"b10", L"b9", L"Caesar", L"anton", L"\u4E2D\u6587"})
+        folder.folder(std::wstring(L"top\\") + name);
+    folder.file(L"top\\a file.txt", "x");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return m_tree.GetChildItem(item) != nullptr; }));
+    const HTREEITEM top = m_tree.GetChildItem(item);
+    EXPECT_EQ(nullptr, m_tree.GetChildItem(top)); // not listed before it is opened
+    m_tree.Expand(top, TVE_EXPAND);
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(top); }));
+    const auto names = childrenOf(top);
+    ASSERT_EQ(5u, names.size());
+    EXPECT_EQ(L"anton", names[0]);
+    EXPECT_EQ(L"Caesar", names[3]);
+}
+
+TEST_F(DirTree, EmptyFolderLosesItsExpander) {
+    const TempFolder folder;
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    EXPECT_TRUE(TestHost::PumpUntil([&] { return !m_tree.ItemHasChildren(item); }));
+}
+
+TEST_F(DirTree, ListsAgainByF5) {
+    const TempFolder folder;
+    folder.folder(L"one");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    folder.folder(L"two");
+    m_tree.SendMessage(WM_KEYDOWN, VK_F5);
+    EXPECT_TRUE(TestHost::PumpUntil([&] { return childrenOf(item).size() == 2; }));
+}
+
+TEST_F(DirTree, DeadFolderBlocksNothing) {
+    const TempFolder folder;
+    folder.folder(L"dead");
+    folder.folder(L"living\\inner");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    HTREEITEM dead = m_tree.GetChildItem(item);
+    ASSERT_STREQ(L"dead", m_tree.GetItemText(dead));
+    const HTREEITEM living = m_tree.GetNextSiblingItem(dead);
+    {
+        const DeadFolder block;
+        const ULONGLONG begin = GetTickCount64();
+        m_tree.Expand(dead, TVE_EXPAND);
+        EXPECT_LT(GetTickCount64() - begin, 300u);
+        m_tree.Expand(living, TVE_EXPAND);
+        EXPECT_TRUE(TestHost::PumpUntil([&] { return expanded(living); })); // the others go on
+        EXPECT_FALSE(expanded(dead));
+        const ULONGLONG select = GetTickCount64();
+        EXPECT_FALSE(m_tree.SetPathName(folder.path(L"dead\\x").c_str())); // bounded
+        EXPECT_LT(GetTickCount64() - select, 4000u);
+    }
+    EXPECT_TRUE(TestHost::PumpUntil([&] { return expanded(dead); })); // the late answer is shown
+}
+
+TEST_F(DirTree, WindowMayDieWhileAFolderHangs) {
+    const TempFolder folder;
+    folder.folder(L"dead");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const DeadFolder block;
+    m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
+    m_tree.DestroyWindow();
+    TestHost::Settle();
+}
+
+TEST_F(DirTree, ItemsMayBeDeletedWhileAFolderHangs) {
+    const TempFolder folder;
+    folder.folder(L"dead");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    {
+        const DeadFolder block;
+        m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
+        m_tree.SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+    }
+    TestHost::Settle();
+    EXPECT_EQ(0u, m_tree.GetCount());
+    EXPECT_TRUE(m_tree.GetPathName().IsEmpty());
+    EXPECT_FALSE(m_tree.SetPathName(folder.path().c_str())); // no root
+    EXPECT_TRUE(m_tree.SetDesktopFolder());
+    EXPECT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+}
+
+TEST_F(DirTree, IsOpenedByMouse) {
+    const TempFolder folder;
+    folder.folder(L"sub\\deep");
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM sub = m_tree.GetChildItem(item);
+    m_tree.EnsureVisible(sub);
+    CRect text;
+    m_tree.GetItemRect(sub, text, TRUE);
+    ModalScript script;
+    script.step("double click", [&](Driver& user) {
+        user.doubleClickAt(m_tree, {text.left + 4, text.CenterPoint().y});
+        user.waitFor("opened", [&] { return expanded(sub); });
+        user.press(VK_RIGHT);
+        user.waitFor("deep", [&] { return m_tree.GetItemText(m_tree.GetSelectedItem()) == L"deep"; });
+        user.onUi([&] { m_host.End(); });
+    });
+    script.run([&] { m_host.Loop(); });
+    EXPECT_STREQ(folder.path(L"sub\\deep").c_str(), m_tree.GetPathName());
+}
+
+TEST_F(DirTree, FilesToo) {
+    const TempFolder folder;
+    folder.folder(L"folder");
+    folder.file(L"file.txt", "x");
+    m_tree.SetTreeCtrl(0);
+    ASSERT_TRUE(m_tree.SetDesktopFolder());
+    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
+    const HTREEITEM item = m_tree.GetSelectedItem();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    EXPECT_EQ((std::vector<std::wstring>{L"folder", L"file.txt"}), childrenOf(item));
+    const HTREEITEM file = m_tree.GetNextSiblingItem(m_tree.GetChildItem(item));
+    EXPECT_FALSE(m_tree.ItemHasChildren(file));
+    m_tree.SelectItem(file);
+    EXPECT_STREQ(folder.path(L"file.txt").c_str(), m_tree.GetPathName());
+}
+
+TEST_F(DirTree, WithoutWindowNothingHappens) {
+    CQVDirTreeCtrl tree;
+    EXPECT_FALSE(tree.SetDesktopFolder());
+    EXPECT_FALSE(tree.SetPathName(L"C:\\"));
+    EXPECT_TRUE(tree.GetPathName().IsEmpty());
+    tree.SetTreeCtrl(99);
+    CQVDirListCtrl list;
+    CString path = L"before";
+    EXPECT_FALSE(list.SetPathName(L"C:\\"));
+    EXPECT_FALSE(list.GetPathName(path, -1));
+    EXPECT_TRUE(path.IsEmpty());
+}
+
+TEST_F(DirTree, TenThousandFoldersInTwiceTheBareTime) {
+    constexpr int kFolders = 10000;
+    constexpr double kMostTimesBare = 2.0;
+    const TempFolder folder;
+    for (int i = 0; i < kFolders; ++i)
+        CreateDirectoryW(folder.path(L"folder " + std::to_wstring(i)).c_str(), nullptr);
+    LARGE_INTEGER frequency, begin, end;
+    QueryPerformanceFrequency(&frequency);
+    const auto seconds = [&] {
+        return static_cast<double>(end.QuadPart - begin.QuadPart) / static_cast<double>(frequency.QuadPart);
+    };
+    double best = 1e9;
+    for (int attempt = 0; attempt < 3 && best > kMostTimesBare; ++attempt) {
+        const HWND bare = CreateWindowExW(0, WC_TREEVIEWW, L"", kTreeStyle, 20, 20, 360, 260, m_host, nullptr,
+                                          nullptr, nullptr);
+        TVINSERTSTRUCTW node = {};
+        node.item.mask = TVIF_TEXT;
+        node.item.pszText = const_cast<LPWSTR>(L"root");
+        const auto root = reinterpret_cast<HTREEITEM>(
+            SendMessageW(bare, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&node)));
+        TestHost::Settle();
+        QueryPerformanceCounter(&begin);
+        SendMessageW(bare, WM_SETREDRAW, FALSE, 0);
+        node.hParent = root;
+        node.hInsertAfter = TVI_LAST;
+        for (int i = 0; i < kFolders; ++i) {
+            std::wstring text = L"folder " + std::to_wstring(i);
+            node.item.pszText = text.data();
+            SendMessageW(bare, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&node));
+        }
+        SendMessageW(bare, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
+        SendMessageW(bare, WM_SETREDRAW, TRUE, 0);
+        UpdateWindow(bare);
+        QueryPerformanceCounter(&end);
+        const double bareTime = seconds();
+        DestroyWindow(bare);
+
+        const std::wstring parent = folder.path().substr(0, folder.path().rfind(L'\\'));
+        ASSERT_TRUE(m_tree.SetDesktopFolder());
+        ASSERT_TRUE(m_tree.SetPathName(parent.c_str()));
+        const HTREEITEM above = m_tree.GetSelectedItem();
+        ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(above); }));
+        HTREEITEM item = m_tree.GetChildItem(above);
+        while (item && folder.path() != parent + L"\\" + m_tree.GetItemText(item).GetString())
+            item = m_tree.GetNextSiblingItem(item);
+        ASSERT_NE(nullptr, item);
+        TestHost::Settle();
+        QueryPerformanceCounter(&begin);
+        m_tree.Expand(item, TVE_EXPAND);
+        while (!expanded(item)) {
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+            TestHost::Settle();
+        }
+        m_tree.UpdateWindow();
+        QueryPerformanceCounter(&end);
+        best = std::min(best, seconds() / bareTime);
+        printf("bare %.1f ms, with listing %.1f ms\n", bareTime * 1000, seconds() * 1000);
+    }
+    EXPECT_LE(best, kMostTimesBare);
+}
+
+TEST_F(DirTree, LeavesNothingBehind) {
+    const TempFolder folder;
+    folder.folder(L"a\\b");
+    const auto use = [&] {
+        CQVComboDTBox tree;
+        tree.Create(kTreeStyle, CRect(20, 20, 200, 200), &m_host, 0);
+        tree.SetTreeCtrl(1);
+        tree.SetDesktopFolder();
+        tree.SetPathName(folder.path(L"a").c_str());
+        TestHost::PumpUntil([&] { return tree.GetChildItem(tree.GetSelectedItem()) != nullptr; });
+        tree.SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+        tree.DestroyWindow();
+        CQVDirListCtrl list;
+        list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(20, 20, 200, 200), &m_host, 1);
+        list.SetPathName(folder.path().c_str());
+        list.DestroyWindow();
+    };
+    for (int i = 0; i < 5; ++i)
+        use();
+    const qvtest::LeakGuard guard;
+    for (int i = 0; i < 30; ++i)
+        use();
+    guard.expectNothingLeft();
+}
+
+class DirList : public SkinFixture {
+  protected:
+    void SetUp() override {
+        SkinFixture::SetUp();
+        ASSERT_TRUE(m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS,
+                                  CRect(10, 10, 390, 290), &m_host, 1));
+        m_list.SetFont(QV_GetSysFont(QVFONT_UI));
+    }
+    void TearDown() override {
+        m_list.DestroyWindow();
+        SkinFixture::TearDown();
+    }
+
+    CString pathAt(int item) const {
+        CString path;
+        m_list.GetPathName(path, item);
+        return path;
+    }
+
+    TestHost m_host;
+    CQVDirListCtrl m_list;
+};
+
+TEST_F(DirList, ShowsAFolder) {
+    const TempFolder folder;
+    folder.file(L"b.txt", std::string(2000, 'x'));
+    folder.file(L"a.txt", "x");
+    folder.folder(L"zeta");
+    ASSERT_TRUE(m_list.SetPathName((folder.path() + L"\\").c_str()));
+    ASSERT_EQ(3, m_list.GetItemCount());
+    EXPECT_STREQ(folder.path().c_str(), pathAt(-1));
+    EXPECT_STREQ(folder.path(L"zeta").c_str(), pathAt(0));
+    EXPECT_STREQ(folder.path(L"a.txt").c_str(), pathAt(1));
+    EXPECT_STREQ(folder.path(L"b.txt").c_str(), pathAt(2));
+    EXPECT_TRUE(m_list.GetItemText(0, 1).IsEmpty());
+    EXPECT_FALSE(m_list.GetItemText(2, 1).IsEmpty());
+    EXPECT_FALSE(m_list.GetItemText(2, 2).IsEmpty());
+    CString path = L"before";
+    EXPECT_FALSE(m_list.GetPathName(path, 3));
+    EXPECT_TRUE(path.IsEmpty());
+    EXPECT_FALSE(m_list.GetPathName(path, -2));
+    TestHost::Settle();
+    Picture::ofWindow(m_list.m_hWnd).save(qvtest::picturePath(L"dirlist"));
+}
+
+TEST_F(DirList, FoldersThatAreNotThereChangeNothing) {
+    const TempFolder folder;
+    folder.file(L"a.txt", "x");
+    EXPECT_TRUE(pathAt(-1).IsEmpty());
+    ASSERT_TRUE(m_list.SetPathName(folder.path().c_str()));
+    for (const std::wstring& path : {folder.path(L"nowhere"), folder.path(L"a.txt"), std::wstring(L"")})
+        EXPECT_FALSE(m_list.SetPathName(path.c_str()));
+    EXPECT_FALSE(m_list.SetPathName(nullptr));
+    EXPECT_EQ(1, m_list.GetItemCount());
+    EXPECT_STREQ(folder.path().c_str(), pathAt(-1));
+}
+
+TEST_F(DirList, IsWalkedByMouseAndKeyboard) {
+    const TempFolder folder;
+    folder.file(L"sub\\inner.txt", "x");
+    ASSERT_TRUE(m_list.SetPathName(folder.path().c_str()));
+    TestHost::Settle();
+    CRect text;
+    m_list.GetItemRect(0, text, LVIR_LABEL);
+    ModalScript script;
+    script.step("into and out", [&](Driver& user) {
+        user.doubleClickAt(m_list, {text.left + 5, text.CenterPoint().y});
+        user.waitFor("inside", [&] { return pathAt(-1) == folder.path(L"sub").c_str(); });
+        user.press(VK_BACK);
+        user.waitFor("outside", [&] { return pathAt(-1) == folder.path().c_str(); });
+        user.onUi([&] { m_host.End(); });
+    });
+    script.run([&] { m_host.Loop(); });
+}
+
+} // namespace
