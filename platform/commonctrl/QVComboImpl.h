@@ -19,7 +19,8 @@ class CQVComboImpl {
     // Wears list and edit field; does nothing while they do not exist, or when somebody else wears them.
     void AttachParts();
     BOOL SetListObject(CQVComboLBox* list);
-    CQVComboLBox* ListObject() const { return m_list; }
+    // The object of the list dies or is taken away.
+    void ForgetList() { m_list = nullptr; }
 
     void Paint(CDC* dc, const CRect& client);
     void Repaint() const;

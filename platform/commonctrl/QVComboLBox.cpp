@@ -1,6 +1,6 @@
 #include "QVComboBox.h"
 
-#include "QVCtrlSupport.h"
+#include "QVComboImpl.h"
 #include "QVReplaceWnd.h"
 
 namespace _qv_commonctrl {
@@ -54,6 +54,8 @@ bool MayDraw(UINT message) {
 CQVComboLBox::CQVComboLBox() = default;
 
 CQVComboLBox::~CQVComboLBox() {
+    if (m_pCombo)
+        m_pCombo->m_pImpl->ForgetList();
     if (m_hWnd)
         UnsubclassWindow(); // the list belongs to its combo box
 }

@@ -42,6 +42,7 @@ void CQVFrameImpl::Attach(HWND wnd) {
 }
 
 void CQVFrameImpl::Detach() {
+    StopFollowing();
     m_wnd = nullptr;
     m_children.Clear();
     m_band.MouseLeave();
@@ -65,7 +66,26 @@ CRect CQVFrameImpl::Edges() const {
 
 void CQVFrameImpl::SetAutoSize(bool enable, HWND host) {
     m_autoSize = enable;
-    m_anchorHost = ::IsWindow(host) && host != m_wnd ? host : nullptr;
+    StopFollowing();
+    if (host && host != m_wnd &&
+        ::SetWindowSubclass(host, &CQVFrameImpl::FollowProc, FollowId(), reinterpret_cast<DWORD_PTR>(this)))
+        m_anchorHost = host;
+}
+
+void CQVFrameImpl::StopFollowing() {
+    if (m_anchorHost)
+        ::RemoveWindowSubclass(m_anchorHost, &CQVFrameImpl::FollowProc, FollowId());
+    m_anchorHost = nullptr;
+}
+
+LRESULT CALLBACK CQVFrameImpl::FollowProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                          DWORD_PTR self) {
+    auto* frame = reinterpret_cast<CQVFrameImpl*>(self);
+    if (message == WM_NCDESTROY)
+        frame->StopFollowing();
+    else if (message == WM_SIZE && frame->m_autoSize && wParam != SIZE_MINIMIZED)
+        frame->m_children.Layout(wnd);
+    return ::DefSubclassProc(wnd, message, wParam, lParam);
 }
 
 void CQVFrameImpl::RegisterChild(HWND child, int mode, DWORD flags) {
@@ -129,8 +149,8 @@ bool CQVFrameImpl::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& r
         result = 0;
         return (wParam & kSystemCommandMask) == SC_CLOSE && !IsClosable();
     case WM_SIZE:
-        if (m_autoSize && wParam != SIZE_MINIMIZED)
-            m_children.Layout(AnchorHost());
+        if (m_autoSize && !m_anchorHost && wParam != SIZE_MINIMIZED)
+            m_children.Layout(m_wnd);
         return false;
     case WM_ENABLE:
         PaintCloseIf(TRUE);

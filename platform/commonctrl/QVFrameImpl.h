@@ -11,6 +11,7 @@ class CQVFrameImpl {
     CQVFrameImpl() = default;
     CQVFrameImpl(const CQVFrameImpl&) = delete;
     CQVFrameImpl& operator=(const CQVFrameImpl&) = delete;
+    ~CQVFrameImpl() { StopFollowing(); }
 
     // Takes the frame over, keeping the size of the client area.
     void Attach(HWND wnd);
@@ -29,6 +30,12 @@ class CQVFrameImpl {
     enum class PaintPart { All, CloseButton };
 
     static Kind KindOf(DWORD style);
+    static LRESULT CALLBACK FollowProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                       DWORD_PTR self);
+    void StopFollowing();
+    UINT_PTR FollowId() const {
+        return reinterpret_cast<UINT_PTR>(this);
+    } // several frames may follow one window
     bool HandleMouse(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     bool OnNcButtonDown(WPARAM hitCode, LPARAM screenPoint);
     bool OnCapturedMouse(UINT message, LPARAM clientPoint);
@@ -51,7 +58,7 @@ class CQVFrameImpl {
     bool m_paintedClosable = true;
     CQVCaptionBand m_band;
     AnchoredChildren m_children;
-    HWND m_anchorHost = nullptr;
+    HWND m_anchorHost = nullptr; // another window than the frame's; subclassed for its changes of size
     bool m_autoSize = false;
 };
 

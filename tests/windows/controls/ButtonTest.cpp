@@ -61,7 +61,8 @@ TEST_F(Controls, DefaultButtonHasTheAccent) {
     dialog.Open();
     ::SetFocus(dialog.Item(IDC_EDIT));
     EXPECT_EQ(QV_GetSysColor(QVCLR_ACCENT), Shot(dialog.Item(IDOK)).at(20, 0));
-    EXPECT_EQ(QV_GetSysColor(QVCLR_CTRL_NORMAL), Shot(dialog.Item(IDOK)).at(20, 2)) << "one line, not the focus";
+    EXPECT_EQ(QV_GetSysColor(QVCLR_CTRL_NORMAL), Shot(dialog.Item(IDOK)).at(20, 2))
+        << "one line, not the focus";
     EXPECT_EQ(QV_GetSysColor(QVCLR_CTRL_BORDER), Shot(dialog.Item(IDCANCEL)).at(20, 0));
     dialog.DestroyWindow();
 }

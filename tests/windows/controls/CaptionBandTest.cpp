@@ -6,7 +6,8 @@ namespace controls_test {
 namespace {
 
 // A band like that of a window over a system dialog.
-constexpr QVCaptionFigures kLow = {21, 27, 6, 1, 17, 5, 2, QVCLR_TEXT_WINDOW, QVCLR_TEXT_WINDOW, QVCLR_WINDOW};
+constexpr QVCaptionFigures kLow = {21,          27, 6, 1, 17, 5, 2, QVCLR_TEXT_WINDOW, QVCLR_TEXT_WINDOW,
+                                   QVCLR_WINDOW};
 constexpr UINT k96 = 96;
 constexpr UINT k144 = 144;
 
@@ -167,8 +168,8 @@ TEST_F(Controls, AnchoredRectangles) {
     };
     for (const Row& row : rows) {
         const CRect got = QV_GetAnchoredRect(child, from, to, row.mode, row.flags);
-        EXPECT_TRUE(got == row.expected) << "mode " << row.mode << " flags " << row.flags << ": " << got.left << ","
-                                         << got.top << "," << got.right << "," << got.bottom;
+        EXPECT_TRUE(got == row.expected) << "mode " << row.mode << " flags " << row.flags << ": " << got.left
+                                         << "," << got.top << "," << got.right << "," << got.bottom;
     }
     EXPECT_TRUE(QV_GetAnchoredRect(child, from, CSize(20, 20), QVANCHOR_FILL, 0) == CRect(10, 20, 10, 20))
         << "never less than nothing";

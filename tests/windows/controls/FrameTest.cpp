@@ -54,7 +54,8 @@ TEST_F(Controls, FramePixelsOfTheActiveWindow) {
     const int right = shot.width() - 1, bottom = shot.height() - 1;
     for (const CPoint outer : {CPoint(0, 0), CPoint(right, 0), CPoint(0, bottom), CPoint(right, bottom)})
         EXPECT_EQ(QV_GetSysColor(QVCLR_FRAME_OUTER), shot.at(outer.x, outer.y));
-    for (const CPoint inner : {CPoint(1, 1), CPoint(right - 1, 50), CPoint(1, bottom - 1), CPoint(90, bottom - 1)})
+    for (const CPoint inner :
+         {CPoint(1, 1), CPoint(right - 1, 50), CPoint(1, bottom - 1), CPoint(90, bottom - 1)})
         EXPECT_EQ(QV_GetSysColor(QVCLR_FRAME_INNER), shot.at(inner.x, inner.y));
     EXPECT_EQ(QV_GetSysColor(QVCLR_CAPTION), shot.at(shot.width() / 2, 10));
     EXPECT_EQ(QV_GetSysColor(QVCLR_CAPTION_LINE), shot.at(shot.width() / 2, 27));
@@ -197,14 +198,16 @@ TEST_F(Controls, ChildPageHasNoFrame) {
 TEST_F(Controls, AnchoredChildrenFollow) {
     TestDialog dialog(IDD_SMALL);
     dialog.Open();
-    const CRect text = dialog.ItemRect(IDC_LABEL), yes = dialog.ItemRect(IDOK), ask = dialog.ItemRect(IDC_CHECK1);
+    const CRect text = dialog.ItemRect(IDC_LABEL), yes = dialog.ItemRect(IDOK),
+                ask = dialog.ItemRect(IDC_CHECK1);
     dialog.SetAutoSize(TRUE, nullptr, 0);
     dialog.SetChildWindow(dialog.GetDlgItem(IDC_CHECK1), QVANCHOR_BOTTOM_LEFT, QVANCHOR_KEEP_SIZE);
     dialog.SetChildWindow(dialog.GetDlgItem(IDOK), QVANCHOR_BOTTOM_RIGHT, QVANCHOR_KEEP_SIZE);
     dialog.SetChildWindow(dialog.GetDlgItem(IDC_LABEL), QVANCHOR_FILL, QVANCHOR_RESIZE);
     CRect window = WindowRectOf(dialog);
     const auto resize = [&](int dx, int dy) {
-        dialog.SetWindowPos(nullptr, 0, 0, window.Width() + dx, window.Height() + dy, SWP_NOMOVE | SWP_NOZORDER);
+        dialog.SetWindowPos(nullptr, 0, 0, window.Width() + dx, window.Height() + dy,
+                            SWP_NOMOVE | SWP_NOZORDER);
     };
     resize(70, 50);
     EXPECT_TRUE(dialog.ItemRect(IDC_CHECK1) == ask + CSize(0, 50));
