@@ -7,6 +7,7 @@ using namespace _qv_extractrl;
 BEGIN_MESSAGE_MAP(ProbeDialog, CDialog)
     ON_MESSAGE(QVN_EDITNOTIFY, &ProbeDialog::OnEditNotify)
     ON_MESSAGE(QVN_TRACKERMOVE, &ProbeDialog::OnTrackerMove)
+    ON_CONTROL_RANGE(EN_CHANGE, IDC_PLAIN, IDC_METER, &ProbeDialog::OnEditChange)
 END_MESSAGE_MAP()
 
 ProbeDialog::ProbeDialog() : CDialog(IDD_PROBE) {
@@ -30,10 +31,8 @@ void ProbeDialog::DoDataExchange(CDataExchange* exchange) {
     onExchange(exchange);
 }
 
-BOOL ProbeDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
-    if (HIWORD(wParam) == EN_CHANGE && lParam)
-        ++changes[LOWORD(wParam)];
-    return CDialog::OnCommand(wParam, lParam);
+void ProbeDialog::OnEditChange(UINT id) {
+    ++changes[static_cast<int>(id)];
 }
 
 LRESULT ProbeDialog::OnEditNotify(WPARAM wParam, LPARAM lParam) {

@@ -47,7 +47,7 @@ class ProbeDialog : public CDialog {
   protected:
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* exchange) override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    afx_msg void OnEditChange(UINT id);
     afx_msg LRESULT OnEditNotify(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnTrackerMove(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

@@ -3,6 +3,7 @@
 
 #include <LeakGuard.h>
 #include <ModalScript.h>
+#include <Picture.h>
 #include <QVCommonCtrl.h>
 
 #include <gtest/gtest.h>
@@ -148,14 +149,23 @@ TEST(ExtraTemplate, ReplacedObjectsLeaveNothingBehind) {
     });
 }
 
+// A pixel that nothing but a repaint would overwrite.
+void markPixel(CWnd* control) {
+    CClientDC dc(control);
+    dc.SetPixelV(5, 5, RGB(1, 2, 3));
+    EXPECT_EQ(Picture::ofClient(*control).at(5, 5), RGB(1, 2, 3));
+}
+
 TEST(ExtraTemplate, SkinChangeReachesEveryControl) {
     openAndClose([](ProbeDialog& opened) {
         opened.ShowWindow(SW_SHOW);
         opened.UpdateWindow();
+        for (const int id : {IDC_TIMECODE, IDC_NUMBER, IDC_TRACKER, IDC_METER})
+            markPixel(opened.GetDlgItem(id));
         _qv_commonctrl::QV_SetSkinPath(nullptr);
-        EXPECT_TRUE(opened.timeCode()->GetUpdateRect(nullptr));
-        EXPECT_TRUE(opened.tracker()->GetUpdateRect(nullptr));
-        EXPECT_TRUE(opened.meter()->GetUpdateRect(nullptr));
+        opened.UpdateWindow();
+        for (const int id : {IDC_TIMECODE, IDC_NUMBER, IDC_TRACKER, IDC_METER})
+            EXPECT_NE(Picture::ofClient(*opened.GetDlgItem(id)).at(5, 5), RGB(1, 2, 3)) << id;
     });
 }
 
