@@ -1,9 +1,5 @@
 // The tour: every window of the gallery opened, used and answered as a user does, in each language and skin.
-#include "GallerySession.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include "Tour.h"
 
 using namespace qvtest;
 using namespace gallery;
@@ -15,19 +11,8 @@ constexpr int kNo = 31096;
 constexpr int kNoAsk = 31098;
 constexpr int kFileName = 1148;
 
-using Results = std::vector<std::wstring>;
-
-class Tour : public testing::TestWithParam<Look> {
+class FilesTour : public Tour {
   protected:
-    void SetUp() override { m_session = std::make_unique<GallerySession>(GetParam()); }
-    void TearDown() override {
-        if (m_session) {
-            EXPECT_EQ(0u, m_session->close());
-        }
-    }
-    GallerySession& session() { return *m_session; }
-    Driver& user() { return m_session->user(); }
-
     // Types into the running file dialog's name field.
     void typeName(HWND dialog, const std::wstring& text) {
         const HWND combo = user().waitControl(dialog, kFileName);
@@ -35,18 +20,7 @@ class Tour : public testing::TestWithParam<Look> {
         user().replaceText(edit, text);
         user().waitText(edit, text);
     }
-
-    std::wstring sample(const std::wstring& name) const { return m_session->samples().path(name); }
-
-  private:
-    std::unique_ptr<GallerySession> m_session;
 };
-
-std::string lookName(const testing::TestParamInfo<Look>& info) {
-    std::string name = toUtf8(info.param.skin + L"_" + info.param.language);
-    name.erase(std::remove(name.begin(), name.end(), '-'), name.end());
-    return name;
-}
 
 } // namespace
 
@@ -80,7 +54,7 @@ TEST_P(Tour, MessageBoxAnswersAreReported) {
     EXPECT_EQ(Results{L"QV_MessageBox=8 (Cancel)"}, session().waitClosed(L"messagebox"));
 }
 
-TEST_P(Tour, OneFileIsOpened) {
+TEST_P(FilesTour, OneFileIsOpened) {
     session().open(L"open");
     const HWND dialog = session().waitDialog();
     typeName(dialog, L"sunset.png");
@@ -89,7 +63,7 @@ TEST_P(Tour, OneFileIsOpened) {
     EXPECT_EQ((Results{L"file=" + sample(L"sunset.png"), L"files=1"}), session().waitClosed(L"open"));
 }
 
-TEST_P(Tour, SeveralFilesAreOpened) {
+TEST_P(FilesTour, SeveralFilesAreOpened) {
     session().open(L"open-many");
     const HWND dialog = session().waitDialog();
     typeName(dialog, L"\"sunset.png\" \"tone.wav\" \"harbour.png\"");
@@ -100,14 +74,14 @@ TEST_P(Tour, SeveralFilesAreOpened) {
               session().waitClosed(L"open-many"));
 }
 
-TEST_P(Tour, CancelledFileDialogSaysSo) {
+TEST_P(FilesTour, CancelledFileDialogSaysSo) {
     session().open(L"open");
     const HWND dialog = session().waitDialog();
     user().click(dialog, IDCANCEL);
     EXPECT_EQ(Results{L"CQVFileDialog=IDCANCEL"}, session().waitClosed(L"open"));
 }
 
-TEST_P(Tour, SavedNameGetsTheFilterExtensionInLowerCase) {
+TEST_P(FilesTour, SavedNameGetsTheFilterExtensionInLowerCase) {
     session().open(L"save");
     const HWND dialog = session().waitDialog();
     typeName(dialog, L"Clip");
@@ -119,7 +93,5 @@ TEST_P(Tour, SavedNameGetsTheFilterExtensionInLowerCase) {
               session().waitClosed(L"save"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, Tour,
-                         testing::Values(Look{L"zh-CN", L"dark"}, Look{L"en-US", L"dark"},
-                                         Look{L"zh-CN", L"light"}, Look{L"en-US", L"light"}),
-                         lookName);
+INSTANTIATE_TEST_SUITE_P(Looks, Tour, allLooks(), lookName);
+INSTANTIATE_TEST_SUITE_P(Looks, FilesTour, allLooks(), lookName);
