@@ -35,6 +35,7 @@
 #include "QVColorStatic.h"
 #include "QVXMessageBox.h"
 #include "QVFileDialog.h"
+#include "QVPathDialog.h"
 #include "QVProgressDlg.h"
 #include "QVSafeColorDlg.h"
 #include "QVVUFrame.h"

@@ -9,6 +9,10 @@ namespace _qv_commonctrl {
 
 IMPLEMENT_DYNAMIC(CQVTreeCtrl, CTreeCtrl)
 
+LRESULT QV_PaintTreeItem(NMTVCUSTOMDRAW& draw) {
+    return PaintTreeItem(draw);
+}
+
 CQVTreeCtrl::CQVTreeCtrl() = default;
 
 CQVTreeCtrl::~CQVTreeCtrl() = default;

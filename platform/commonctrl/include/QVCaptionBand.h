@@ -76,6 +76,8 @@ class QVCOMMONCTRL_API CQVCaptionBand {
     BOOL ButtonDown(const CRect& area, CPoint point, UINT dpi);
     // `clicked` (may be null) becomes TRUE when the button was pressed and is let go over itself.
     BOOL ButtonUp(const CRect& area, CPoint point, UINT dpi, BOOL* clicked);
+    // For windows that follow the mouse themselves: over the button, and the left button down there.
+    void SetMouse(BOOL hot, BOOL pressed) { m_bHot = hot, m_bPressed = hot && pressed; }
     BOOL IsHot() const { return m_bHot; }
     BOOL IsPressed() const { return m_bPressed; } // since ButtonDown, also while the pointer is elsewhere
     QVCloseState GetCloseState(BOOL closable) const;

@@ -88,6 +88,10 @@ class QVCOMMONCTRL_API CQVTreeCtrl : public CTreeCtrl, public CQVBaseCtrl {
     QVSetupMoment m_setup;
 };
 
+// What a tree of any class answers to its custom-draw notification in order to look like CQVTreeCtrl: the rows are
+// painted with the skin's colours and expanders and the tree's own font and images. Returns the answer.
+QVCOMMONCTRL_API LRESULT QV_PaintTreeItem(NMTVCUSTOMDRAW& draw);
+
 // A progress bar drawn with the skin; the PBM_* messages and the styles PBS_VERTICAL and PBS_MARQUEE keep
 // their meaning.
 class QVCOMMONCTRL_API CQVProgressCtrl : public CProgressCtrl, public CQVBaseCtrl {
