@@ -1,7 +1,13 @@
 #include "QVFileDialog.h"
 
+#include "FileDialogIds.h"
+#include "FileDialogParts.h"
 #include "FileNameRules.h"
+#include "QVComboBoxSt.h"
+#include "QVListView.h"
+#include "QVWndEx.h"
 #include "TextView.h"
+#include "ToolBarEx.h"
 
 #include <QVCommonClass.h>
 
@@ -12,7 +18,6 @@ namespace _qv_commonwnd {
 namespace {
 
 constexpr DWORD kMultiSelectChars = 260000;
-constexpr int kFileTypeComboId = 1136;
 constexpr int kAllowPsdPanel = 2;
 
 static_assert(sizeof(OPENFILENAMEW) == 152, "the full record of a 64-bit system");
@@ -22,6 +27,7 @@ static_assert(sizeof(OPENFILENAMEW) == 152, "the full record of a 64-bit system"
 IMPLEMENT_DYNAMIC(CQVFileDialog, CFileDialog)
 
 BEGIN_MESSAGE_MAP(CQVFileDialog, CFileDialog)
+    ON_WM_GETMINMAXINFO()
     ON_MESSAGE(WM_QV_IMPORTFORDER, OnMsgImportForder)
 END_MESSAGE_MAP()
 
@@ -30,11 +36,12 @@ CQVFileDialog::CQVFileDialog(int bOpenFileDialog, const wchar_t* lpszDefExt, con
                              unsigned long dwFlags, const wchar_t* lpszFilter, CWnd* pParentWnd,
                              unsigned long dwSize, int /*bVistaStyle*/, int bRawNames, unsigned long dwOption)
     : CFileDialog(bOpenFileDialog, lpszDefExt, lpszFileName, dwFlags, lpszFilter, pParentWnd, dwSize, FALSE),
-      m_pWndEx(nullptr), m_pToolBar(nullptr), m_pLookInCombo(nullptr), m_pListView(nullptr),
-      m_pShellViewHolder(nullptr), m_pSkinnedList(nullptr), m_dwPsdState(0), m_pAdvanceWnd(nullptr),
-      m_pReserved(nullptr), m_szAdvance(0, 0), m_bPreviewMode(0), m_bRawNames(bRawNames),
-      m_strFilter(lpszFilter), m_bNameOK(1),
-      m_dwOption(bOpenFileDialog ? dwOption : static_cast<DWORD>(FDO_KEEPOK)), m_eSelType(eSelFile) {
+      m_pWndEx(new CQVWndEx), m_pToolBar(new CToolBarEx), m_pLookInCombo(new CQVComboBoxSt),
+      m_pListView(new CQVListView), m_pShellViewHolder(nullptr), m_pSkinnedList(nullptr), m_dwPsdState(0),
+      m_pAdvanceWnd(nullptr), m_pReserved(nullptr), m_szAdvance(0, 0), m_bPreviewMode(0),
+      m_bRawNames(bRawNames), m_strFilter(lpszFilter), m_bNameOK(1),
+      m_dwOption(bOpenFileDialog ? dwOption : static_cast<DWORD>(FDO_KEEPOK)), m_eSelType(eSelFile),
+      m_pParts(std::make_unique<CFileDialogParts>()) {
     m_ofn.Flags &= ~static_cast<DWORD>(OFN_ENABLESIZING);
     if (m_ofn.Flags & OFN_ALLOWMULTISELECT)
         UseMultiSelectBuffer();
@@ -45,6 +52,17 @@ CQVFileDialog::CQVFileDialog(int bOpenFileDialog, const wchar_t* lpszDefExt, con
 CQVFileDialog::~CQVFileDialog() {
     if ((m_ofn.Flags & OFN_ALLOWMULTISELECT) && m_ofn.lpstrFile)
         m_ofn.lpstrFile = nullptr;
+    ReleaseShellList();
+    // The windows are the system's; an object that still wears one must not take it along.
+    for (CWnd* const worn : std::initializer_list<CWnd*>{m_pWndEx, &m_btnOK, &m_btnCancel, &m_stcFileName,
+                                                         &m_stcFileType, &m_stcLookIn, &m_cmbFileType,
+                                                         m_pLookInCombo, &m_cmbFileName, m_pToolBar})
+        if (worn->m_hWnd)
+            worn->UnsubclassWindow();
+    delete std::exchange(m_pWndEx, nullptr);
+    delete std::exchange(m_pToolBar, nullptr);
+    delete std::exchange(m_pListView, nullptr);
+    delete std::exchange(m_pLookInCombo, nullptr);
     if (m_wndForderImport.GetSafeHwnd())
         m_wndForderImport.DestroyWindow();
 }
@@ -127,15 +145,9 @@ LRESULT CQVFileDialog::OnMsgImportForder(WPARAM, LPARAM) {
     if (m_strSelPath.IsEmpty())
         return kNothingSelected;
     m_eSelType = eSelForder;
-    const HWND frame = ::GetParent(GetSafeHwnd());
-    CComboBox fileTypes;
-    if (fileTypes.Attach(::GetDlgItem(frame, kFileTypeComboId))) {
-        const int current = fileTypes.GetCurSel();
-        if (current != CB_ERR)
-            fileTypes.GetLBText(current, m_strSelFormat);
-        fileTypes.Detach();
-    }
-    ::EndDialog(frame, IDOK);
+    if (m_cmbFileType.m_hWnd && m_cmbFileType.GetCurSel() != CB_ERR)
+        m_cmbFileType.GetLBText(m_cmbFileType.GetCurSel(), m_strSelFormat);
+    ::EndDialog(Frame(), IDOK);
     return kImported;
 }
 

@@ -1,8 +1,7 @@
 // QVFileDialog.h: the open and save dialog.
 //
-//     CQVFileDialog dialog(FALSE, nullptr, L"Clip", OFN_OVERWRITEPROMPT, L"AVI|*.avi|All|*.*|", this, 0,
-//     FALSE,
-//                          FALSE, FDO_KEEPOK);
+//     CQVFileDialog dialog(FALSE, nullptr, L"Clip", OFN_OVERWRITEPROMPT, L"AVI|*.avi|All|*.*|", this,
+//                          0, FALSE, FALSE, FDO_KEEPOK);
 //     if (dialog.DoModal() == IDOK)
 //         Export(dialog.GetPathName()); // "c:\video\clip.avi"
 #pragma once
@@ -29,6 +28,7 @@ class CQVWndEx;
 class CToolBarEx;
 class CQVComboBoxSt;
 class CQVListView;
+class CFileDialogParts;
 
 // The system's hook-style file dialog in skinned form, with a panel for Photoshop layers, an optional button
 // that imports a whole folder and an optional window of the host docked into it.
@@ -48,12 +48,10 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     // lpszDefExt: extension without dot that the system appends to a name without one; null for none.
     // lpszFileName: the name to start with; null for none. A multi-select dialog starts with none.
     // dwFlags: OFN_* flags. OFN_ENABLESIZING is taken out, OFN_HIDEREADONLY is added. With
-    // OFN_ALLOWMULTISELECT the
-    //   object keeps a name buffer of 260000 characters (m_ofn.lpstrFile), whatever is said in
-    //   m_ofn.nMaxFile.
+    //   OFN_ALLOWMULTISELECT the object keeps a name buffer of 260000 characters (m_ofn.lpstrFile),
+    //   whatever is said in m_ofn.nMaxFile.
     // lpszFilter: "description|pattern|description|pattern|", a pattern being "*.avi;*.wmv"; null or empty
-    // for none. A
-    //   last pair without its closing bar is shown, but adds no extension to saved names.
+    //   for none. A last pair without its closing bar is shown, but adds no extension to saved names.
     // pParentWnd: owner, borrowed; null for none.
     // dwSize: size of m_ofn to state to the system; 0 for the full one.
     // bVistaStyle: accepted and ignored.
@@ -74,15 +72,15 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
 
     // Kept for the host; changes nothing in the dialog.
     void SetPreviewMode(int nMode);
-    // A window of the host to dock into the dialog; borrowed, hidden or shown as the dialog needs. Before
-    // DoModal.
+    // A window of the host to dock into the dialog, before DoModal; null for none. Borrowed: while the dialog
+    // runs it is a child of the dialog's frame, placed, sized and shown by the dialog, and told of what is
+    // selected (WM_QV_FILESELCHANGE). Afterwards it goes back, hidden, to the parent, place and size it had.
     void SetAdvanceWnd(CWnd* pWnd);
 
     // The path; for several files the first. GetSaveFilePath is the same.
     CString GetPathName();
     CString GetSaveFilePath();
-    // Iterates all paths, beginning with GetStartPosition() of the base; `pos` becomes null behind the last
-    // one.
+    // Iterates all paths, beginning with GetStartPosition() of the base; `pos` becomes null behind the last.
     CString GetNextPathName(POSITION& pos);
     // Name with extension, extension without dot, name without extension. A save dialog with a chosen filter
     // answers the filter's first extension in upper case ("*.avi;*.wmv": "AVI") and the name with it.
@@ -91,7 +89,7 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     CString GetFileTitle();
 
     // What GetPathName does to a save dialog's path: lower case, and the chosen filter's first extension
-    // appended unless the path's own one stands anywhere in the filter's pattern. Empty stays empty. Any
+    // appended unless the path's own one stands anywhere in the filter's pattern. Empty stays empty; any
     // length.
     CString CheckPathName(CString strPath);
 
@@ -118,6 +116,19 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void SpliteFiles(CString str, CArray<CString, const CString&>& arr);
     void TestTempFilePath();
     BOOL IsShowPsdOption(const CString& strPath);
+    // Shows or hides the Photoshop panel below the dialog, which grows or shrinks by the panel's height. Nothing
+    // happens when it is shown or hidden already, or not allowed.
+    void ShowPsdOptionWnd(BOOL bShow);
+
+    // The system's dialog is there: takes its frame and controls over and lays them out.
+    BOOL OnInitDialog() override;
+    // For derived classes; does nothing.
+    void InitCtrlAttribute();
+    // Moves the system's controls below the painted caption.
+    void MoveItems();
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
     DECLARE_MESSAGE_MAP()
 
     // Windows of the system dialog that are taken over while it runs.
@@ -164,7 +175,37 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void ParseFilterPatterns();
     std::vector<std::wstring> FilterPatternList() const;
 
+    HWND Frame() const; // the system dialog; null while none runs
+    UINT Dpi() const;
+    CRect FrameClient() const;
+    void TakeFrame();
+    void TakeControls();
+    void CreatePanels();
+    void DockAdvanceWnd();
+    void ReleaseWindows();
+    void MoveChild(HWND child);
+    void PlaceMoved(HWND child, const CRect& place);
+    void MoveOpenButton();
+    void MoveButtonsBeside();
+    void MoveTopControls();
+
+    void OnDialogInitDone();
+    void OnSelectionChange();
+    void OnFolderChanged();
+    void OnTypeChanged();
+    void OnNothingSelected();
+    void OnOneSelected(HWND list);
+    void OnSeveralSelected(HWND list, int count);
+    void OnFileSelected(const CString& path);
+    void OnFolderSelected(const CString& path, CString name, HWND list);
+    void ForgetSelection();
+    void SkinShellView(HWND view, HWND list);
+    void ReleaseShellList();
+    bool HasAdvanceWnd() const;
+    void TellAdvanceWnd(WPARAM what, LPARAM detail) const;
+
     std::unique_ptr<wchar_t[]> m_pMultiSelectBuffer;
+    std::unique_ptr<CFileDialogParts> m_pParts;
 };
 
 } // namespace _qv_commonwnd

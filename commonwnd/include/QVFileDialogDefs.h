@@ -26,6 +26,14 @@ enum QVFileDialogOption : DWORD {
 // Pointers are valid during the message only. The answer is ignored.
 constexpr UINT WM_QV_FILESELCHANGE = WM_USER + 10001;
 
+// The values of its wParam.
+enum QVFileSelChange : WPARAM {
+    FILESEL_MISSING = 0,
+    FILESEL_ONE = 1,
+    FILESEL_SEVERAL = 2,
+    FILESEL_ATTACHED = 5,
+};
+
 // Sent by the folder import panel to the dialog; wParam and lParam 0.
 constexpr UINT WM_QV_IMPORTFORDER = WM_USER + 10002;
 

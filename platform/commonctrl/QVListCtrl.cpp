@@ -9,6 +9,10 @@ namespace _qv_commonctrl {
 
 IMPLEMENT_DYNAMIC(CQVListCtrl, CListCtrl)
 
+LRESULT QV_PaintListItem(NMLVCUSTOMDRAW& draw) {
+    return PaintListItem(draw);
+}
+
 CQVListCtrl::CQVListCtrl() = default;
 
 CQVListCtrl::~CQVListCtrl() = default;

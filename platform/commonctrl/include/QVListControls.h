@@ -67,6 +67,10 @@ class QVCOMMONCTRL_API CQVListCtrl : public CListCtrl, public CQVBaseCtrl {
     QVSetupMoment m_setup;
 };
 
+// Answers a list view's custom-draw notification: paints its items with the skin. For the parent of a list that
+// is no CQVListCtrl, such as one inside a window of the system.
+QVCOMMONCTRL_API LRESULT QV_PaintListItem(NMLVCUSTOMDRAW& draw);
+
 // A tree view with skinned rows, expanders and scroll bars; custom draw as with the list.
 class QVCOMMONCTRL_API CQVTreeCtrl : public CTreeCtrl, public CQVBaseCtrl {
     DECLARE_DYNAMIC(CQVTreeCtrl)

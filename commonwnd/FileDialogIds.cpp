@@ -1,0 +1,36 @@
+#include "FileDialogIds.h"
+
+#include <QVSkin.h>
+
+namespace _qv_commonwnd {
+
+namespace {
+
+constexpr int kComboRowPx = 16;
+constexpr WPARAM kClosedField = static_cast<WPARAM>(-1);
+
+} // namespace
+
+void SetComboHeights(HWND combo) {
+    const LPARAM height = _qv_commonctrl::QV_ScalePx(combo, kComboRowPx);
+    ::SendMessageW(combo, CB_SETITEMHEIGHT, 0, height);
+    ::SendMessageW(combo, CB_SETITEMHEIGHT, kClosedField, height);
+}
+
+HWND ShellViewOf(HWND frame) {
+    return frame ? ::FindWindowExW(frame, nullptr, kShellViewClass, nullptr) : nullptr;
+}
+
+HWND ShellListOf(HWND frame) {
+    const HWND view = ShellViewOf(frame);
+    return view ? ::GetDlgItem(view, kShellListId) : nullptr;
+}
+
+HWND ViewToolBarOf(HWND frame) {
+    HWND bar = frame ? ::FindWindowExW(frame, nullptr, kToolBarClass, L"") : nullptr;
+    while (bar && ::GetDlgCtrlID(bar) == kPlacesBarId)
+        bar = ::FindWindowExW(frame, bar, kToolBarClass, L"");
+    return bar;
+}
+
+} // namespace _qv_commonwnd

@@ -1,0 +1,20 @@
+// What the file dialog keeps beside its published members while it runs.
+#pragma once
+
+#include "DockedWindow.h"
+#include "ViewBar.h"
+
+#include <QVButton.h>
+
+namespace _qv_commonwnd {
+
+class CFileDialogParts {
+  public:
+    CWnd listHolder;                      // the shell list's placeholder
+    CWnd shellView;                       // sends the list's custom draw back to the list
+    CViewBar viewBar;                     // folder up, new folder, kinds of view
+    _qv_commonctrl::CQVButton helpButton; // shown to hosts that ask for it only
+    CDockedWindow advance;
+};
+
+} // namespace _qv_commonwnd

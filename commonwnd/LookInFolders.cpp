@@ -1,0 +1,160 @@
+#include "LookInFolders.h"
+
+#include "ShellItems.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+
+namespace _qv_commonwnd {
+
+namespace {
+
+constexpr int kDeepestListed =
+    1; // the desktop's and the computer's folders; others lie on the way to the one in view
+
+int CALLBACK NoteTextLeft(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM data) {
+    if (record->iType != EMR_EXTTEXTOUTW && record->iType != EMR_EXTTEXTOUTA)
+        return TRUE;
+    // Both records begin alike; only the place is read.
+    const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
+    *reinterpret_cast<int*>(data) = text->emrtext.ptlReference.x;
+    return FALSE;
+}
+
+} // namespace
+
+std::vector<int> DepthsOf(const std::vector<int>& textLefts) {
+    std::vector<int> steps(textLefts);
+    std::sort(steps.begin(), steps.end());
+    steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
+    std::vector<int> depths;
+    for (const int left : textLefts)
+        depths.push_back(
+            static_cast<int>(std::lower_bound(steps.begin(), steps.end(), left) - steps.begin()));
+    return depths;
+}
+
+void CLookInFolders::SetWindows(HWND combo, HWND frame) {
+    m_combo = combo;
+    m_frame = frame;
+    m_known = false;
+    m_rows.clear();
+    m_inView.reset();
+    m_inViewIcon.reset();
+}
+
+int CLookInFolders::RowCount() const {
+    const LRESULT count = m_combo ? ::SendMessageW(m_combo, CB_GETCOUNT, 0, 0) : 0;
+    return count > 0 ? static_cast<int>(count) : 0;
+}
+
+CString CLookInFolders::Text(int row) const {
+    CString text;
+    const LRESULT length =
+        row < 0 || !m_combo ? CB_ERR : ::SendMessageW(m_combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
+    if (length <= 0)
+        return text;
+    wchar_t* const buffer = text.GetBuffer(static_cast<int>(length) + 1);
+    const LRESULT stored =
+        ::SendMessageW(m_combo, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(buffer));
+    text.ReleaseBuffer(stored < 0 ? 0 : static_cast<int>(stored));
+    return text;
+}
+
+// Lets the dialog draw a row into a record of drawing orders.
+int CLookInFolders::TextLeft(int row) const {
+    constexpr RECT kPlace = {0, 0, 400, 20};
+    int left = 0;
+    const HDC record = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+    if (!record)
+        return left;
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_COMBOBOX;
+    draw.CtlID = static_cast<UINT>(::GetDlgCtrlID(m_combo));
+    draw.itemID = static_cast<UINT>(row);
+    draw.itemAction = ODA_DRAWENTIRE;
+    draw.hwndItem = m_combo;
+    draw.hDC = record;
+    draw.rcItem = kPlace;
+    draw.itemData =
+        static_cast<ULONG_PTR>(::SendMessageW(m_combo, CB_GETITEMDATA, static_cast<WPARAM>(row), 0));
+    ::SendMessageW(m_frame, WM_DRAWITEM, draw.CtlID, reinterpret_cast<LPARAM>(&draw));
+    if (const HENHMETAFILE orders = ::CloseEnhMetaFile(record)) {
+        ::EnumEnhMetaFile(nullptr, orders, NoteTextLeft, &left, nullptr);
+        ::DeleteEnhMetaFile(orders);
+    }
+    return left;
+}
+
+OwnedItemId CLookInFolders::FolderInView() const {
+    const LRESULT bytes = m_frame ? ::SendMessageW(m_frame, CDM_GETFOLDERIDLIST, 0, 0) : 0;
+    if (bytes <= 0)
+        return nullptr;
+    OwnedItemId id(static_cast<PIDLIST_ABSOLUTE>(::CoTaskMemAlloc(static_cast<SIZE_T>(bytes))));
+    if (id && ::SendMessageW(m_frame, CDM_GETFOLDERIDLIST, static_cast<WPARAM>(bytes),
+                             reinterpret_cast<LPARAM>(id.get())) <= 0)
+        id.reset();
+    return id;
+}
+
+void CLookInFolders::Know() {
+    if (m_known)
+        return;
+    m_known = true;
+    m_rows.clear();
+    std::vector<int> lefts;
+    for (int row = 0; row < RowCount(); ++row)
+        lefts.push_back(TextLeft(row));
+    const OwnedItemId inView = FolderInView();
+    for (const int depth : DepthsOf(lefts)) {
+        m_rows.push_back({depth, nullptr, nullptr});
+        m_rows.back().id = FindItem(m_rows.size() - 1, inView.get());
+        m_rows.back().icon = SmallIconOf(m_rows.back().id.get());
+    }
+}
+
+const CLookInFolders::Row* CLookInFolders::ParentOf(std::size_t row) const {
+    for (std::size_t above = row; above-- > 0;)
+        if (m_rows[above].depth == m_rows[row].depth - 1)
+            return &m_rows[above];
+    return nullptr;
+}
+
+OwnedItemId CLookInFolders::FindItem(std::size_t row, const ITEMIDLIST* inView) const {
+    if (m_rows[row].depth == 0)
+        return DesktopItem();
+    const Row* const parent = ParentOf(row);
+    if (!parent || !parent->id)
+        return nullptr;
+    const CString name = Text(static_cast<int>(row));
+    OwnedItemId onTheWay = AncestorAt(inView, m_rows[row].depth);
+    if (onTheWay && HasName(onTheWay.get(), name))
+        return onTheWay;
+    return parent->depth <= kDeepestListed ? ChildNamed(parent->id.get(), name) : nullptr;
+}
+
+int CLookInFolders::Depth(int row) {
+    Know();
+    return row < 0 || static_cast<std::size_t>(row) >= m_rows.size()
+               ? 0
+               : m_rows[static_cast<std::size_t>(row)].depth;
+}
+
+HICON CLookInFolders::Icon(int row) {
+    Know();
+    return row < 0 || static_cast<std::size_t>(row) >= m_rows.size()
+               ? nullptr
+               : m_rows[static_cast<std::size_t>(row)].icon.get();
+}
+
+HICON CLookInFolders::IconOfFolderInView() {
+    OwnedItemId id = FolderInView();
+    if (!m_inViewIcon || !SameItem(id.get(), m_inView.get())) {
+        m_inViewIcon = SmallIconOf(id.get());
+        m_inView = std::move(id);
+    }
+    return m_inViewIcon.get();
+}
+
+} // namespace _qv_commonwnd

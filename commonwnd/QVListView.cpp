@@ -1,0 +1,178 @@
+#include "QVListView.h"
+
+#include "QVFileDialogDefs.h"
+
+#include <QVMemoDC.h>
+#include <QVReplaceWnd.h>
+#include <QVSkin.h>
+
+namespace _qv_commonwnd {
+
+using namespace _qv_commonctrl;
+
+IMPLEMENT_DYNAMIC(CQVListView, CWnd)
+
+BEGIN_MESSAGE_MAP(CQVListView, CWnd)
+    ON_WM_NCPAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_CTLCOLOR()
+    ON_WM_VSCROLL()
+    ON_MESSAGE(WM_QV_LISTSKIN, OnListSkin)
+END_MESSAGE_MAP()
+
+namespace {
+
+// Messages at which the list moves its pixels on the screen, the border among them.
+bool MovesPixels(UINT message) {
+    switch (message) {
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+    case WM_KEYDOWN:
+    case LVM_SCROLL:
+    case LVM_ENSUREVISIBLE:
+        return true;
+    default:
+        return false;
+    }
+}
+
+CPoint Origin(HWND list) {
+    return CPoint(::GetScrollPos(list, SB_HORZ), ::GetScrollPos(list, SB_VERT));
+}
+
+} // namespace
+
+CQVListView::CQVListView() = default;
+
+CQVListView::~CQVListView() = default;
+
+void CQVListView::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    AttachSkin(this);
+}
+
+void CQVListView::OnSkinChange(UINT reason, HWND wnd) {
+    ApplyColors();
+    CQVBaseCtrl::OnSkinChange(reason, wnd);
+}
+
+// Setting a colour repaints the list, so it is set only when it is another one.
+void CQVListView::ApplyColors() {
+    const auto ground = static_cast<LPARAM>(QV_GetSysColor(QVCLR_LIST));
+    const auto text = static_cast<LPARAM>(QV_GetSysColor(QVCLR_TEXT_LIST));
+    if (SendMessage(LVM_GETBKCOLOR) != ground)
+        SendMessage(LVM_SETBKCOLOR, 0, ground);
+    if (SendMessage(LVM_GETTEXTBKCOLOR) != ground)
+        SendMessage(LVM_SETTEXTBKCOLOR, 0, ground);
+    if (SendMessage(LVM_GETTEXTCOLOR) != text)
+        SendMessage(LVM_SETTEXTCOLOR, 0, text);
+}
+
+void CQVListView::TakeHeader() {
+    if (!m_pHeader || m_pHeader->m_hWnd)
+        return;
+    const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
+    if (header && !FromHandlePermanent(header))
+        m_pHeader->SubclassWindow(header);
+}
+
+LRESULT CQVListView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool moving = MovesPixels(message);
+    const CPoint before = moving ? Origin(m_hWnd) : CPoint();
+    const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+    if (moving && m_hWnd && Origin(m_hWnd) != before)
+        Invalidate(FALSE);
+    switch (message) {
+    case LVM_INSERTCOLUMNW:
+    case LVM_INSERTCOLUMNA:
+    case LVM_SETVIEW:
+    case WM_STYLECHANGED:
+        TakeHeader();
+        break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE: // the selection changes its colour
+        Invalidate(FALSE);
+        break;
+    }
+    return result;
+}
+
+// The shell's view sends its list's custom draw back to the list.
+BOOL CQVListView::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (message == WM_NOTIFY && pResult &&
+        reinterpret_cast<const NMHDR*>(lParam)->code == static_cast<UINT>(NM_CUSTOMDRAW)) {
+        *pResult = QV_PaintListItem(*reinterpret_cast<NMLVCUSTOMDRAW*>(lParam));
+        return TRUE;
+    }
+    return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+}
+
+void CQVListView::OnNcPaint() {
+    Default();
+    CRect window;
+    CRect client;
+    GetWindowRect(&window);
+    GetClientRect(&client);
+    if (window.Size() == client.Size())
+        return;
+    ClientToScreen(&client);
+    client.OffsetRect(-window.TopLeft());
+    const CRect corner(client.BottomRight(),
+                       CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)));
+    {
+        CWindowDC dc(this);
+        dc.FillSolidRect(corner, QV_GetSysColor(QVCLR_LIST));
+    }
+    Invalidate(FALSE);
+}
+
+BOOL CQVListView::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CQVListView::OnPaint() {
+    if (GetCurrentMessage()->wParam) { // somebody else's picture
+        Default();
+        return;
+    }
+    ApplyColors();
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(&client);
+    CQVMemoDC memory(&paint, client);
+    memory.FillSolidRect(client, QV_GetSysColor(QVCLR_LIST));
+    DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(memory.GetSafeHdc()), 0);
+    CBrush border(QV_GetSysColor(QVCLR_LIST_FRAME));
+    memory.FrameRect(client, &border);
+}
+
+// The field in which a name is edited in place.
+HBRUSH CQVListView::OnCtlColor(CDC* pDC, CWnd*, UINT) {
+    if (pDC) {
+        pDC->SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));
+        pDC->SetBkColor(QV_GetSysColor(QVCLR_LIST));
+    }
+    return QV_GetSysBrush(QVBRUSH_LIST);
+}
+
+void CQVListView::OnVScroll(UINT, UINT, CScrollBar*) {
+    // Asking brings the skinned bar's state up to date before the list moves.
+    QVReplaceData bars;
+    QV_GetReplaceData(m_hWnd, bars);
+    Default();
+}
+
+LRESULT CQVListView::OnListSkin(WPARAM, LPARAM) {
+    QVReplaceData bars;
+    if (QV_GetReplaceData(m_hWnd, bars) && bars.bHorz) {
+        ShowScrollBar(SB_HORZ, FALSE);
+        ShowScrollBar(SB_HORZ, TRUE);
+    }
+    return 0;
+}
+
+} // namespace _qv_commonwnd

@@ -1,0 +1,41 @@
+// The shell's file list inside the file dialog.
+#pragma once
+
+#include <QVBaseCtrl.h>
+#include <QVListControls.h>
+
+namespace _qv_commonwnd {
+
+class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
+    DECLARE_DYNAMIC(CQVListView)
+
+  public:
+    CQVListView();
+    ~CQVListView() override;
+
+    // The object that wears the list's header as soon as there is one; borrowed.
+    void SetHeaderObject(_qv_commonctrl::CQVHeaderCtrl* header) { m_pHeader = header; }
+
+    void OnSkinChange(UINT reason, HWND wnd) override;
+
+  protected:
+    void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+    afx_msg void OnNcPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnPaint();
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg LRESULT OnListSkin(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    void ApplyColors();
+    void TakeHeader();
+
+    _qv_commonctrl::CQVHeaderCtrl* m_pHeader = nullptr;
+};
+
+} // namespace _qv_commonwnd

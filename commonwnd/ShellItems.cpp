@@ -1,0 +1,131 @@
+#include "ShellItems.h"
+
+#include <shlwapi.h>
+
+#include <cstring>
+#include <limits>
+
+namespace _qv_commonwnd {
+
+namespace {
+
+constexpr std::size_t kEndBytes = sizeof(USHORT); // a list ends with an empty step
+
+// Releases a COM object at the end of a scope.
+template <class Interface> struct Released {
+    Interface* p = nullptr;
+    Released() = default;
+    Released(const Released&) = delete;
+    Released& operator=(const Released&) = delete;
+    ~Released() {
+        if (p)
+            p->Release();
+    }
+};
+
+USHORT StepBytes(const BYTE* at) {
+    USHORT bytes = 0;
+    std::memcpy(&bytes, at, sizeof bytes);
+    return bytes;
+}
+
+// Bytes of the first `depth` steps, all of them when there are fewer; `seen` is how many there were.
+std::size_t BytesOfSteps(const ITEMIDLIST* id, int depth, int& seen) {
+    const auto* const begin = reinterpret_cast<const BYTE*>(id);
+    std::size_t bytes = 0;
+    for (seen = 0; seen < depth && StepBytes(begin + bytes); ++seen)
+        bytes += StepBytes(begin + bytes);
+    return bytes;
+}
+
+bool ShowsName(IShellFolder* folder, PCUITEMID_CHILD child, SHGDNF kind, const CString& name) {
+    STRRET text = {};
+    wchar_t* allocated = nullptr;
+    if (FAILED(folder->GetDisplayNameOf(child, kind, &text)) ||
+        FAILED(::StrRetToStrW(&text, child, &allocated)))
+        return false;
+    const bool same = name == allocated;
+    ::CoTaskMemFree(allocated);
+    return same;
+}
+
+bool ShowsName(IShellFolder* folder, PCUITEMID_CHILD child, const CString& name) {
+    return ShowsName(folder, child, SHGDN_INFOLDER, name) || ShowsName(folder, child, SHGDN_NORMAL, name);
+}
+
+} // namespace
+
+OwnedItemId DesktopItem() {
+    auto* const id = static_cast<BYTE*>(::CoTaskMemAlloc(kEndBytes));
+    if (id)
+        std::memset(id, 0, kEndBytes);
+    return OwnedItemId(reinterpret_cast<PIDLIST_ABSOLUTE>(id));
+}
+
+OwnedItemId AncestorAt(const ITEMIDLIST* id, int depth) {
+    int seen = 0;
+    const std::size_t bytes = id ? BytesOfSteps(id, depth, seen) : 0;
+    if (!id || seen < depth)
+        return nullptr;
+    auto* const copy = static_cast<BYTE*>(::CoTaskMemAlloc(bytes + kEndBytes));
+    if (!copy)
+        return nullptr;
+    std::memcpy(copy, id, bytes);
+    std::memset(copy + bytes, 0, kEndBytes);
+    return OwnedItemId(reinterpret_cast<PIDLIST_ABSOLUTE>(copy));
+}
+
+bool HasName(PCIDLIST_ABSOLUTE id, const CString& name) {
+    Released<IShellFolder> parent;
+    PCUITEMID_CHILD child = nullptr;
+    return id &&
+           SUCCEEDED(::SHBindToParent(id, IID_IShellFolder, reinterpret_cast<void**>(&parent.p), &child)) &&
+           ShowsName(parent.p, child, name);
+}
+
+OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name) {
+    Released<IShellFolder> desktop;
+    Released<IShellFolder> folder;
+    if (!parent || FAILED(::SHGetDesktopFolder(&desktop.p)))
+        return nullptr;
+    if (!StepBytes(reinterpret_cast<const BYTE*>(parent)))
+        std::swap(folder.p, desktop.p);
+    else if (FAILED(desktop.p->BindToObject(parent, nullptr, IID_IShellFolder,
+                                            reinterpret_cast<void**>(&folder.p))))
+        return nullptr;
+    Released<IEnumIDList> children;
+    if (folder.p->EnumObjects(nullptr, SHCONTF_FOLDERS | SHCONTF_INCLUDEHIDDEN, &children.p) != S_OK)
+        return nullptr;
+    PITEMID_CHILD child = nullptr;
+    while (children.p->Next(1, &child, nullptr) == S_OK) {
+        OwnedItemId found;
+        if (ShowsName(folder.p, child, name))
+            found.reset(::ILCombine(parent, child));
+        ::CoTaskMemFree(child);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
+bool SameItem(const ITEMIDLIST* a, const ITEMIDLIST* b) {
+    if (!a || !b)
+        return a == b;
+    int steps = 0;
+    const std::size_t bytes = BytesOfSteps(a, std::numeric_limits<int>::max(), steps);
+    return BytesOfSteps(b, std::numeric_limits<int>::max(), steps) == bytes && !std::memcmp(a, b, bytes);
+}
+
+OwnedIcon SmallIconOf(const ITEMIDLIST* id) {
+    constexpr UINT kSmall = SHGFI_ICON | SHGFI_SMALLICON;
+    SHFILEINFOW info = {};
+    if (id && ::SHGetFileInfoW(reinterpret_cast<LPCWSTR>(id), 0, &info, sizeof info, kSmall | SHGFI_PIDL) &&
+        info.hIcon)
+        return OwnedIcon(info.hIcon);
+    if (::SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
+                         kSmall | SHGFI_USEFILEATTRIBUTES))
+        return OwnedIcon(info.hIcon);
+    return nullptr;
+}
+
+} // namespace _qv_commonwnd

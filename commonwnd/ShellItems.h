@@ -1,0 +1,21 @@
+// Items of the shell's name space by their id lists.
+#pragma once
+
+#include "LookInFolders.h"
+
+namespace _qv_commonwnd {
+
+// The root; null when memory ran out.
+OwnedItemId DesktopItem();
+// The first `depth` steps of an item's list: its ancestor, or itself. Null when the list is shorter or null.
+OwnedItemId AncestorAt(const ITEMIDLIST* id, int depth);
+// Whether a shell item shows this name.
+bool HasName(PCIDLIST_ABSOLUTE id, const CString& name);
+// The folder of this name in another; null when there is none. Looks at every folder of the parent.
+OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name);
+// Both null, or equal byte for byte.
+bool SameItem(const ITEMIDLIST* a, const ITEMIDLIST* b);
+// The item's small icon; a plain folder's for null and for items without one.
+OwnedIcon SmallIconOf(const ITEMIDLIST* id);
+
+} // namespace _qv_commonwnd

@@ -1,0 +1,33 @@
+// What is selected in the shell's list of the running file dialog, and what the list is given once.
+#pragma once
+
+#include <afxdlgs.h>
+
+namespace _qv_commonwnd {
+
+enum class SelectedKind {
+    Missing, // nothing of that path exists
+    File,    // also a folder with further attributes (hidden, read-only ...)
+    Folder,  // a plain folder
+};
+
+struct SelectedItem {
+    CString path;
+    CString name; // without extension, or as the list shows it
+    SelectedKind kind = SelectedKind::Missing;
+    BOOL isFolder = FALSE; // a folder of either kind
+};
+
+// The item that the dialog is at; when the dialog does not know it, the first selected one of the list.
+SelectedItem FindSelectedItem(const CFileDialog& dialog, HWND list);
+
+// Text of the first selected item; empty when there is none.
+CString FirstSelectedText(HWND list);
+
+// Takes the sunken edge away, which the system draws in its own colours.
+void DropEdge(HWND list);
+
+// A background picture of one colour: a shell that paints a ground of its own uses it instead. The list owns it.
+void SetPlainGround(HWND list, COLORREF color);
+
+} // namespace _qv_commonwnd
