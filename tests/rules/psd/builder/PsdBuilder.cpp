@@ -71,12 +71,26 @@ class Builder {
     }
 
     void layerInfo() {
-        const auto count = static_cast<std::int64_t>(m_document.layers.size());
+        const auto count = static_cast<std::int64_t>(recordCount(m_document));
         m_image.number(static_cast<std::uint64_t>(m_document.negativeCount ? -count : count), 2, "count");
-        for (std::size_t i = 0; i < m_document.layers.size(); ++i)
-            record(m_document.layers[i], "layer" + std::to_string(i));
+        std::size_t index = 0;
+        for (const Layer& each : m_document.layers) {
+            records(each, "layer" + std::to_string(index));
+            index += static_cast<std::size_t>(each.times);
+        }
+        m_image.number(0, 0, "recordsEnd");
         for (const Layer& each : m_document.layers)
-            m_image.zeros(m_document.channelDataBytes * static_cast<std::size_t>(each.channels));
+            m_image.zeros(m_document.channelDataBytes * static_cast<std::size_t>(each.channels) *
+                          static_cast<std::size_t>(each.times));
+    }
+
+    // Tens of thousands of records are copies of one: the heap's own checks look at every block at each call.
+    void records(const Layer& each, const std::string& name) {
+        const auto begin = static_cast<std::ptrdiff_t>(m_image.bytes.size());
+        record(each, name);
+        const Bytes one(m_image.bytes.begin() + begin, m_image.bytes.end());
+        for (int i = 1; i < each.times; ++i)
+            m_image.append(one);
     }
 
     void record(const Layer& each, const std::string& name) {
@@ -208,6 +222,13 @@ Layer groupEnd() {
 
 PsdImage build(const Document& document) {
     return Builder(document).build();
+}
+
+std::size_t recordCount(const Document& document) {
+    std::size_t count = 0;
+    for (const Layer& each : document.layers)
+        count += static_cast<std::size_t>(each.times);
+    return count;
 }
 
 } // namespace psdtest

@@ -26,6 +26,7 @@ struct Layer {
     Bytes mask;
     Bytes ranges;
     bool bare = false; // extra data of length 0
+    int times = 1;     // so many records alike, one after the other; only the first one's fields get names
 };
 
 Layer layer(std::u16string_view name);
@@ -59,6 +60,10 @@ struct Document {
 // resources, section, info, count, globalMask, layerBlock.length, and for each layer n: layer<n>.channels,
 // layer<n>.channel<i>.length, layer<n>.blendSignature, layer<n>.extra, layer<n>.mask, layer<n>.ranges,
 // layer<n>.legacyLength, layer<n>.<key>.length, layer<n>.luni.count; for global blocks global.<key>.length.
+// recordsEnd, of no width, is the place behind the last record.
 PsdImage build(const Document& document);
+
+// Records in the document: every layer as often as it is repeated.
+std::size_t recordCount(const Document& document);
 
 } // namespace psdtest
