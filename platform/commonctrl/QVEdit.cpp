@@ -211,7 +211,7 @@ LRESULT CQVEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 void CQVEdit::AfterMessage(UINT message, LRESULT result) {
     switch (message) {
     case WM_CREATE:
-        if (result == 0)
+        if (result != -1) // anything else is success; the system's field answers 1
             TakeOverFrame();
         break;
     case WM_SETFONT:
