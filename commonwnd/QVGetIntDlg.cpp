@@ -1,5 +1,6 @@
 #include "QVGetIntDlg.h"
 
+#include "DialogRows.h"
 #include "IntegerText.h"
 #include "QVModule.h"
 #include "WindowText.h"
@@ -43,6 +44,9 @@ BOOL CQVGetIntDlg::OnInitDialog() {
     if (m_nType == QVGETINT_TIMECODE)
         CreateTimecodeEdit();
     ShowTexts();
+    AlignLabelsWithFields(*this);
+    AlignRow(*this, IDC_VALUE_LABEL, {IDC_VALUE_UNIT});
+    MakeRoomForLabels(*this);
     return TRUE;
 }
 

@@ -1,5 +1,6 @@
 #include "QVGetPointDlg.h"
 
+#include "DialogRows.h"
 #include "DictText.h"
 #include "QVModule.h"
 #include "res/ResourceIds.h"
@@ -39,6 +40,8 @@ BOOL CQVGetPointDlg::OnInitDialog() {
         TemplateTranslation translation;
         CQVDialog::OnInitDialog();
     }
+    AlignLabelsWithFields(*this);
+    MakeRoomForLabels(*this);
     m_pTimeCodeEdit = TakeEdit(IDC_VALUE_EDIT);
     m_pFrameEdit = TakeEdit(IDC_POINT_FRAMES);
     if (!m_pTimeCodeEdit || !m_pFrameEdit)

@@ -1,5 +1,6 @@
 #include "QVPicturePosDlg.h"
 
+#include "DialogRows.h"
 #include "DictText.h"
 #include "QVModule.h"
 #include "WindowText.h"
@@ -52,6 +53,7 @@ BOOL CQVPicturePosDlg::OnInitDialog() {
         TemplateTranslation translation;
         CQVDialog::OnInitDialog();
     }
+    AlignLabelsWithFields(*this);
     GetDefSize(m_ptPos, 1);
     ShowPos();
     m_pTracker = dynamic_cast<CQVRectTracker*>(GetDlgItem(IDC_PICTURE_TRACKER));

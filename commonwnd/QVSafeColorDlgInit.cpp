@@ -1,6 +1,7 @@
 // Setting the safe-colour dialog up and taking it down.
 #include "QVSafeColorDlg.h"
 
+#include "DialogRows.h"
 #include "LuminanceUnits.h"
 #include "WindowText.h"
 #include "res/ResourceIds.h"
@@ -60,14 +61,17 @@ BOOL CQVSafeColorDlg::OnInitDialog() {
     CreateEdits();
     TakeControls();
     FillUnits();
+    Straighten();
     SetEditValue();
     ShowAction();
     ShowDefaults();
     m_SafeColorOrg = m_SafeColor;
     SetDirty();
     SetTabStop();
-    if (m_pLumLow)
+    if (m_pLumLow) {
         m_pLumLow->SetFocus();
+        m_pLumLow->SetSel(0, -1);
+    }
     return FALSE;
 }
 
@@ -108,6 +112,19 @@ void CQVSafeColorDlg::FillUnits() {
     FillUnit(m_pLumUnit, m_SafeColor.nLumUnit);
     FillUnit(m_pChromaUnit, m_SafeColor.nChromaUnit);
     m_pChromaUnit->EnableWindow(FALSE);
+}
+
+// Rows and columns of the grid: the headings stand over their fields.
+void CQVSafeColorDlg::Straighten() {
+    AlignRow(*this, IDC_SAFECOLOR_LUMLOW,
+             {IDC_SAFECOLOR_LUMINANCE, IDC_SAFECOLOR_LUM_REFRESH, IDC_SAFECOLOR_LUM_UNIT});
+    AlignRow(*this, IDC_SAFECOLOR_CHROMAHIGH,
+             {IDC_SAFECOLOR_CHROMINANCE, IDC_SAFECOLOR_CHROMA_REFRESH, IDC_SAFECOLOR_CHROMA_UNIT});
+    AlignRow(*this, IDC_SAFECOLOR_HIGH, {IDC_SAFECOLOR_LOW, IDC_SAFECOLOR_UNIT});
+    CentreOver(*this, IDC_SAFECOLOR_LUMLOW, IDC_SAFECOLOR_LOW);
+    CentreOver(*this, IDC_SAFECOLOR_LUMHIGH, IDC_SAFECOLOR_HIGH);
+    CentreOver(*this, IDC_SAFECOLOR_LUM_UNIT, IDC_SAFECOLOR_UNIT);
+    CentreOver(*this, IDC_SAFECOLOR_LUM_UNIT, IDC_SAFECOLOR_CHROMA_UNIT);
 }
 
 void CQVSafeColorDlg::ShowAction() {

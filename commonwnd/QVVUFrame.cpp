@@ -40,6 +40,7 @@ BEGIN_MESSAGE_MAP(CQVVUFrame, CWnd)
     ON_WM_DESTROY()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
     ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
     ON_WM_TIMER()
@@ -48,7 +49,7 @@ END_MESSAGE_MAP()
 
 CQVVUFrame::CQVVUFrame()
     : m_pLayout(new CVUFaceLayout), m_pTickPen(QV_LoadPen(QVPEN_SCALE_TICK)),
-      m_pShadowPen(QV_LoadPen(QVPEN_SCALE_SHADOW)) {
+      m_pShadowPen(QV_LoadPen(QVPEN_SCALE_SHADOW)), m_brPanel(QV_GetSysColor(QVCLR_PANEL_RAISED)) {
 }
 
 CQVVUFrame::~CQVVUFrame() {
@@ -245,6 +246,8 @@ void CQVVUFrame::OnSkinChange(UINT reason, HWND wnd) {
     QV_ReleaseCommonRes(m_pShadowPen);
     m_pTickPen = QV_LoadPen(QVPEN_SCALE_TICK);
     m_pShadowPen = QV_LoadPen(QVPEN_SCALE_SHADOW);
+    m_brPanel.DeleteObject();
+    m_brPanel.CreateSolidBrush(QV_GetSysColor(QVCLR_PANEL_RAISED));
     CQVBaseFrame::OnSkinChange(reason, wnd);
 }
 

@@ -20,6 +20,7 @@ constexpr int kMarks = static_cast<int>(std::size(g_marksDb));
 constexpr int kSilenceDb = -120; // shown as minus infinity
 
 constexpr wchar_t kSilenceText[] = L"-    ";
+constexpr wchar_t kWidestMark[] = L"-60";
 constexpr wchar_t kInfinity[] = L"\u221E";
 
 // Pixels at 96 DPI.
@@ -40,6 +41,7 @@ constexpr int kTickRightPx = 3;
 constexpr int kMarkTextRightPx = 8;
 constexpr int kMarkTextAbovePx = 8;
 constexpr int kMarkTextBelowPx = 12;
+constexpr int kMarkLabelPx = 12; // height of a figure
 
 // The skin's UI font in another height.
 void CreateUiFont(CFont& font, int heightPx, UINT dpi) {
@@ -62,6 +64,36 @@ class FontScope {
     CFont* m_pOld;
 };
 
+// The font of the scale's figures; narrower than its height asks for when the widest figure would not fit.
+void CreateScaleFont(CFont& font, CDC& dc, int room, UINT dpi) {
+    CreateUiFont(font, kScaleFontPx, dpi);
+    LOGFONTW log = {};
+    int width = 0;
+    TEXTMETRICW metrics = {};
+    {
+        FontScope scope(dc, &font);
+        width = dc.GetTextExtent(kWidestMark).cx;
+        dc.GetTextMetrics(&metrics);
+        font.GetLogFont(&log);
+    }
+    if (width <= room || width == 0)
+        return;
+    log.lfWidth = metrics.tmAveCharWidth * room / width;
+    font.DeleteObject();
+    font.CreateFontIndirect(&log);
+}
+
+// `font`: null for the one that is selected.
+void DrawMarkText(CDC& dc, const CString& text, CRect place, CFont* font) {
+    const UINT format = DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP;
+    if (!font) {
+        dc.DrawText(text, place, format);
+        return;
+    }
+    FontScope scope(dc, font);
+    dc.DrawText(text, place, format);
+}
+
 struct GroupText {
     VUGroup CVUFaceLayout::*group;
     const wchar_t* title; // default text of the dictionary table
@@ -77,6 +109,13 @@ BOOL CQVVUFrame::OnEraseBkgnd(CDC*) {
     return TRUE;
 }
 
+// The meters' buttons stand on the raised panels.
+HBRUSH CQVVUFrame::OnCtlColor(CDC* pDC, CWnd*, UINT) {
+    pDC->SetBkMode(TRANSPARENT);
+    pDC->SetTextColor(QV_GetSysColor(QVCLR_TEXT));
+    return m_brPanel;
+}
+
 void CQVVUFrame::OnPaint() {
     CPaintDC paint(this);
     CRect client;
@@ -89,6 +128,7 @@ void CQVVUFrame::OnPaint() {
     PaintLabels(dc);
     PaintTitles(dc);
     const UINT dpi = Dpi();
+    FontScope font(dc, QV_GetSysFont(QVFONT_TITLE, dpi));
     for (const auto& text : kGroups) {
         const VUGroup& group = m_pLayout->*text.group;
         if (group.count == 0)
@@ -160,29 +200,27 @@ void CQVVUFrame::PaintLine(CDC* pDC, int* pMarks, int nMarks, CRect rect) {
     const UINT dpi = Dpi();
     auto px = [dpi](int value) { return QV_ScaleForDpi(value, dpi); };
     CFont font;
-    CreateUiFont(font, kScaleFontPx, dpi);
+    CreateScaleFont(font, *pDC, rect.Width() - px(kMarkTextRightPx), dpi);
     CPen* oldPen = pDC->SelectObject(m_pTickPen);
+    const auto marks = VUScaleMarks(pMarks, nMarks, rect.top, rect.bottom, px(kMarkLabelPx));
     for (int i = 0; i < nMarks; ++i) {
-        const double pos = _qv_extractrl::QVX_DBToPos(pMarks[i]);
-        const int y = static_cast<int>((100.0 - pos) * rect.Height() / 100.0) + rect.top;
+        const VUScaleMark& mark = marks[static_cast<size_t>(i)];
         pDC->SelectObject(m_pShadowPen);
-        pDC->MoveTo(rect.right - px(kTickLeftPx), y - 1);
-        pDC->LineTo(rect.right - px(kTickRightPx), y - 1);
+        pDC->MoveTo(rect.right - px(kTickLeftPx), mark.y - 1);
+        pDC->LineTo(rect.right - px(kTickRightPx), mark.y - 1);
         pDC->SelectObject(m_pTickPen);
-        pDC->MoveTo(rect.right - px(kTickLeftPx), y);
-        pDC->LineTo(rect.right - px(kTickRightPx), y);
-
-        CRect place(rect.left, y - px(kMarkTextAbovePx), rect.right - px(kMarkTextRightPx),
-                    y + px(kMarkTextBelowPx));
+        pDC->MoveTo(rect.right - px(kTickLeftPx), mark.y);
+        pDC->LineTo(rect.right - px(kTickRightPx), mark.y);
+        if (!mark.labelled)
+            continue;
+        CRect place(rect.left, mark.y - px(kMarkTextAbovePx), rect.right - px(kMarkTextRightPx),
+                    mark.y + px(kMarkTextBelowPx));
         CString number;
         number.Format(L"%d", pMarks[i]);
-        {
-            FontScope scope(*pDC, &font);
-            pDC->DrawText(pMarks[i] == kSilenceDb ? CString(kSilenceText) : number, place,
-                          DT_RIGHT | DT_SINGLELINE | DT_NOCLIP);
-        }
-        if (pMarks[i] == kSilenceDb)
-            pDC->DrawText(kInfinity, place, DT_RIGHT | DT_SINGLELINE | DT_NOCLIP);
+        const bool silence = pMarks[i] == kSilenceDb;
+        DrawMarkText(*pDC, silence ? CString(kSilenceText) : number, place, &font);
+        if (silence) // in the font that was selected before
+            DrawMarkText(*pDC, kInfinity, place, nullptr);
     }
     pDC->SelectObject(oldPen);
 }

@@ -1,5 +1,6 @@
 #include "VUFaceLayout.h"
 
+#include <QVDBScale.h>
 #include <QVSkin.h>
 
 namespace _qv_commonwnd {
@@ -66,6 +67,21 @@ CRect VUPanel(int left, int count, int clientHeight, UINT dpi) {
     auto px = [dpi](int value) { return _qv_commonctrl::QV_ScaleForDpi(value, dpi); };
     return CRect(CPoint(left, px(kPanelTopPx)),
                  CSize(px(kPitchPx) * count + px(kPanelExtraWidthPx), clientHeight - px(kPanelLostHeightPx)));
+}
+
+std::vector<VUScaleMark> VUScaleMarks(const int* marksDb, int count, int top, int bottom, int labelHeight) {
+    std::vector<VUScaleMark> marks;
+    for (int i = 0; i < count; ++i) {
+        const double pos = _qv_extractrl::QVX_DBToPos(marksDb[i]);
+        marks.push_back({static_cast<int>((100.0 - pos) * (bottom - top) / 100.0) + top, true});
+    }
+    for (int i = count - 2, lower = count - 1; i >= 0; --i) {
+        const auto index = static_cast<size_t>(i);
+        marks[index].labelled = marks[static_cast<size_t>(lower)].y - marks[index].y >= labelHeight;
+        if (marks[index].labelled)
+            lower = i;
+    }
+    return marks;
 }
 
 } // namespace _qv_commonwnd

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <vector>
+
 namespace _qv_commonwnd {
 
 // One group of meters, client pixels.
@@ -36,5 +38,15 @@ bool IsFacePossible(long inputs, long tracks, long outputs);
 
 // The rounded panel of a group of `count` meters whose left edge is at `left`, in a client area of this height.
 CRect VUPanel(int left, int count, int clientHeight, UINT dpi);
+
+// One mark of a dB scale.
+struct VUScaleMark {
+    int y;         // of its tick, client pixels
+    bool labelled; // false: its label would run into that of a lower mark
+};
+
+// The marks (dB, from the top of the scale to its foot) of a scale that fills `top` to `bottom`. The foot is always
+// labelled; the others are as long as `labelHeight` pixels are free below their tick.
+std::vector<VUScaleMark> VUScaleMarks(const int* marksDb, int count, int top, int bottom, int labelHeight);
 
 } // namespace _qv_commonwnd

@@ -59,6 +59,7 @@ class QVCOMMONWND_API CQVSafeColorDlg : public _qv_commonctrl::CQVDialog {
     _qv_extractrl::CQVNumberEditEx* CreateEdit(int placeholder, UINT id);
     void TakeControls();
     void FillUnits();
+    void Straighten();
     void ShowAction();
     void ReadAction();
     void ShowDefaults();

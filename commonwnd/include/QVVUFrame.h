@@ -47,6 +47,7 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* pInfo);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
@@ -80,6 +81,7 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
     int m_nWidth = 100; // of the content, pixels
     CPen* m_pTickPen;   // owned: skin pens
     CPen* m_pShadowPen;
+    CBrush m_brPanel; // ground behind the buttons
 };
 
 } // namespace _qv_commonwnd
