@@ -50,6 +50,52 @@ void PathDialog::WaitSelected(Driver& user, HWND tree, const std::wstring& text)
     user.waitFor("the selection", [&] { return SelectedText(user, tree) == text; });
 }
 
+CRect PathDialog::SelectedRect(Driver& user, HWND tree) {
+    CRect rect;
+    user.onUi([&] { TreeView_GetItemRect(tree, TreeView_GetSelection(tree), &rect, TRUE); });
+    return rect;
+}
+
+bool PathDialog::SelectedIsExpanded(Driver& user, HWND tree) {
+    bool expanded = false;
+    user.onUi([&] {
+        const HTREEITEM item = TreeView_GetSelection(tree);
+        expanded = (TreeView_GetItemState(tree, item, TVIS_EXPANDED) & TVIS_EXPANDED) &&
+                   TreeView_GetChild(tree, item);
+    });
+    return expanded;
+}
+
+POINT PathDialog::CloseCentre(HWND frame) {
+    CRect client;
+    ::GetClientRect(frame, &client);
+    return {client.right - 16, 9};
+}
+
+std::wstring PathDialog::SkinFolder(const std::wstring& name) {
+    const std::wstring dark(_qv_commonctrl::QV_GetSkinPath());
+    return dark.substr(0, dark.rfind(L'\\')) + L"\\" + name;
+}
+
+namespace {
+
+LRESULT CALLBACK CancelWhenActive(int code, WPARAM wParam, LPARAM lParam) {
+    const auto window = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_ACTIVATE && ::GetDlgItem(window, kNewFolder))
+        ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+SelfCancel::SelfCancel()
+    : m_hook(::SetWindowsHookExW(WH_CBT, CancelWhenActive, nullptr, ::GetCurrentThreadId())) {
+}
+
+SelfCancel::~SelfCancel() {
+    ::UnhookWindowsHookEx(m_hook);
+}
+
 INT_PTR PathDialog::Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act) {
     ModalScript script;
     script.step("act on the chooser", [&](Driver& user) { act(user, Frame(user)); });

@@ -37,13 +37,34 @@ class PathDialog : public testing::Test {
 
     // Text of the selected item of the tree; empty for none.
     static std::wstring SelectedText(Driver& user, HWND tree);
+    // Where its text stands, client pixels of the tree.
+    static CRect SelectedRect(Driver& user, HWND tree);
+    static bool SelectedIsExpanded(Driver& user, HWND tree);
     // Waits until an item of this text is selected.
     static void WaitSelected(Driver& user, HWND tree, const std::wstring& text);
 
     // Runs the chooser while the user acts on it.
     static INT_PTR Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act);
 
+    // The middle of the painted close button, client pixels.
+    static POINT CloseCentre(HWND frame);
+
+    // Folder of a shipped skin.
+    static std::wstring SkinFolder(const std::wstring& name);
+
     TempFolder m_folder;
+};
+
+// Cancels the next chooser of this thread as soon as it is active.
+class SelfCancel {
+  public:
+    SelfCancel();
+    ~SelfCancel();
+    SelfCancel(const SelfCancel&) = delete;
+    SelfCancel& operator=(const SelfCancel&) = delete;
+
+  private:
+    HHOOK m_hook;
 };
 
 } // namespace pathdialog_test
