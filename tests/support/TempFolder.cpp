@@ -35,6 +35,21 @@ std::wstring TempFolder::folder(const std::wstring& relative) const {
     return path(relative);
 }
 
+void TempFolder::settleDates() const {
+    const auto list = [](const std::filesystem::path& folder) {
+        std::error_code ignored;
+        for (std::filesystem::directory_iterator entry(folder, ignored), end; entry != end;
+             entry.increment(ignored))
+            continue;
+    };
+    for (std::filesystem::path above = m_path; above.has_relative_path(); above = above.parent_path())
+        list(above);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(m_path)) {
+        if (entry.is_directory())
+            list(entry.path());
+    }
+}
+
 std::string readFile(const std::wstring& path) {
     std::ifstream file(std::filesystem::path(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};

@@ -28,6 +28,10 @@ class TempFolder {
     // Makes a folder and those on its way; returns its path.
     std::wstring folder(const std::wstring& relative) const;
 
+    // Lists every folder on the way here and all below, so that their dates of access change no more. To be called
+    // before the system's folder dialog is told to select one of them: it finds an item by all its dates.
+    void settleDates() const;
+
   private:
     std::wstring m_path;
 };

@@ -96,7 +96,8 @@ SelfCancel::~SelfCancel() {
     ::UnhookWindowsHookEx(m_hook);
 }
 
-INT_PTR PathDialog::Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act) {
+INT_PTR PathDialog::Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act) const {
+    m_folder.settleDates();
     ModalScript script;
     script.step("act on the chooser", [&](Driver& user) { act(user, Frame(user)); });
     return script.run([&] { return dialog.DoModal(); });

@@ -44,7 +44,7 @@ class PathDialog : public testing::Test {
     static void WaitSelected(Driver& user, HWND tree, const std::wstring& text);
 
     // Runs the chooser while the user acts on it.
-    static INT_PTR Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act);
+    INT_PTR Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act) const;
 
     // The middle of the painted close button, client pixels.
     static POINT CloseCentre(HWND frame);
