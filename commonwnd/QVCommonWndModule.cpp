@@ -1,9 +1,8 @@
 // The library as an extension module of the framework: attach, detach, module-wide state.
 #include "QVModule.h"
 
+#include "PathSettings.h"
 #include "QVColorSpaceLib.h"
-
-#include <QVCommonClass.h>
 
 #ifndef QV_STATIC_LINK
 #include <afxdllx.h>
@@ -39,7 +38,7 @@ void QV_ReleaseCommonWnd() {
     if (g_pDirListWnd) {
         CString path;
         g_pDirListWnd->GetPathName(path, kShownFolder);
-        _qv_commonclass::QV_WriteProfileString(L"PathSet", L"FilePath", path);
+        StorePath(kFilePathKey, path);
         ReleaseWindow(g_pDirListWnd);
     }
     ReleaseWindow(g_pCommonWnd);

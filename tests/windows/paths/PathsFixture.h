@@ -1,0 +1,66 @@
+// What the tests of the path windows share: an empty profile section, one language, the shipped dark skin.
+#pragma once
+
+#include "QVCommonWnd.h"
+#include "res/ResourceIds.h"
+
+#include "ModalScript.h"
+#include "StageFolder.h"
+#include "TempFolder.h"
+#include "TestHost.h"
+
+#include <QVCommonClass.h>
+#include <QVDict.h>
+#include <QVSkin.h>
+
+#include <gtest/gtest.h>
+
+namespace paths_test {
+
+using namespace _qv_commonwnd;
+using namespace _qv_commonclass;
+using namespace _qv_commonctrl;
+using qvtest::Driver;
+using qvtest::ModalScript;
+using qvtest::TempFolder;
+
+class Paths : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(QV_SetProfileRoot(L"Software\\QVCommonWndTest"));
+        Reset();
+        ASSERT_TRUE(QV_SetLanguage(L"en-US"));
+    }
+    void TearDown() override { Reset(); }
+
+    static CString Stored(const wchar_t* key, const wchar_t* absent = L"(none)") {
+        return QV_GetProfileString(L"PathSet", key, absent);
+    }
+    static void Store(const wchar_t* key, const CString& value) {
+        ASSERT_TRUE(QV_WriteProfileString(L"PathSet", key, value));
+    }
+    static std::wstring SkinFolder(const wchar_t* name) { return stageFolder() + L"\\skin\\" + name; }
+
+    // A value such as a program gone wrong may leave in the profile.
+    static std::vector<CString> BrokenValues() {
+        return {CString(L'x', 32000),
+                L"C:\\" + CString(L'y', 32000),
+                CString(L'\\', 32000),
+                L"C:\\a\x1\x2\x1F\r\n\tb",
+                L"\r\n",
+                L"C:\\\xD83C\xDC00\xD83C",
+                L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}",
+                L"*?<>|",
+                L"\\\\?\\",
+                L"relative"};
+    }
+
+  private:
+    static void Reset() {
+        QV_WriteProfileString(L"PathSet", nullptr, nullptr);
+        QV_SetState(kStateResourceDirLocked, 0);
+        QV_SetSkinPath(nullptr);
+    }
+};
+
+} // namespace paths_test
