@@ -1,5 +1,6 @@
 #include "QVFilePathShowTip.h"
 
+#include "WindowText.h"
 #include "res/ResourceIds.h"
 
 #include <LWSupportAPI.h>
@@ -19,6 +20,7 @@ constexpr int kPathColumnPx = 1000; // at 96 DPI
 IMPLEMENT_DYNAMIC(CQVFilePathShowTip, CQVDialog)
 
 BEGIN_MESSAGE_MAP(CQVFilePathShowTip, CQVDialog)
+    ON_WM_ERASEBKGND()
     ON_WM_DESTROY()
     ON_BN_CLICKED(IDOK, OnBnClickedOk)
     ON_BN_CLICKED(IDCANCEL, OnBnClickedCancel)
@@ -53,6 +55,17 @@ void CQVFilePathShowTip::FillList(CListCtrl& list) {
         list.InsertItem(i, m_aFiles[i]);
     list.SetRedraw(TRUE);
     QV_ReplaceWnd(list);
+}
+
+// The list has no frame of its own.
+BOOL CQVFilePathShowTip::OnEraseBkgnd(CDC* dc) {
+    const BOOL erased = CQVDialog::OnEraseBkgnd(dc);
+    CRect frame = ChildRect(*this, IDC_MISSINGFILES_LIST);
+    if (!frame.IsRectEmpty()) {
+        frame.InflateRect(1, 1);
+        dc->Draw3dRect(frame, QV_GetSysColor(QVCLR_LIST_FRAME), QV_GetSysColor(QVCLR_LIST_FRAME));
+    }
+    return erased;
 }
 
 void CQVFilePathShowTip::OnDestroy() {

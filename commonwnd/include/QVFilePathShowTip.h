@@ -31,6 +31,7 @@ class QVCOMMONWND_API CQVFilePathShowTip : public _qv_commonctrl::CQVDialog {
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* dx) override;
     void OnSkinChange(UINT reason, HWND wnd) override;
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnDestroy();
     afx_msg void OnBnClickedOk();
     afx_msg void OnBnClickedCancel();

@@ -243,6 +243,11 @@ TEST_F(MissingFiles, IsSkinned) {
             const Picture picture = Picture::ofWindow(prompt);
             picture.save(qvtest::picturePath(std::wstring(L"missingfiles-") + skin));
             EXPECT_EQ(0, picture.count(::GetSysColor(COLOR_BTNFACE)));
+            RECT list = {};
+            ::GetWindowRect(List(prompt), &list);
+            ::MapWindowPoints(nullptr, prompt, reinterpret_cast<POINT*>(&list), 2);
+            EXPECT_EQ(QV_GetSysColor(QVCLR_LIST_FRAME),
+                      Picture::ofClient(prompt).at(list.left - 1, list.top + 5));
             if (std::wstring(skin) == L"dark") {
                 EXPECT_EQ(0, picture.count(RGB(255, 255, 255)));
             }
