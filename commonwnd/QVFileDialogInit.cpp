@@ -163,13 +163,11 @@ void CQVFileDialog::ReleaseWindows() {
 }
 
 void CQVFileDialog::ReleaseShellList() {
-    if (m_pSkinnedList && m_pSkinnedList->m_hWnd)
-        QV_UnReplaceWnd(m_pSkinnedList->m_hWnd);
     m_pSkinnedList = nullptr;
     if (m_header.m_hWnd)
         m_header.UnsubclassWindow();
-    if (m_pListView->m_hWnd)
-        m_pListView->UnsubclassWindow();
+    if (const HWND list = m_pListView->UnsubclassWindow())
+        QV_UnReplaceWnd(list); // it came before the object, so it goes after it
     if (m_pParts->shellView.m_hWnd)
         m_pParts->shellView.UnsubclassWindow();
 }
