@@ -13,8 +13,12 @@ constexpr WPARAM kClosedField = static_cast<WPARAM>(-1);
 
 void SetComboHeights(HWND combo) {
     const LPARAM height = _qv_commonctrl::QV_ScalePx(combo, kComboRowPx);
-    ::SendMessageW(combo, CB_SETITEMHEIGHT, 0, height);
     ::SendMessageW(combo, CB_SETITEMHEIGHT, kClosedField, height);
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    // Some systems give rows a height of their own only in combo boxes that their parent draws; their list takes it.
+    if (::SendMessageW(combo, CB_SETITEMHEIGHT, 0, height) == CB_ERR && ::GetComboBoxInfo(combo, &info))
+        ::SendMessageW(info.hwndList, LB_SETITEMHEIGHT, 0, height);
 }
 
 HWND ShellViewOf(HWND frame) {

@@ -14,7 +14,8 @@ namespace {
 constexpr int kControlDropPx = 21; // the height of the painted caption
 constexpr int kFrameGrowthPx = 5;
 constexpr int kLeastButtonWidthPx = 90;
-constexpr int kImportGapPx = 4; // between Cancel and the folder import panel, and below that panel
+constexpr int kImportGapPx = 4;    // between Cancel and the folder import panel, and below that panel
+constexpr int kBelowImportPx = 10; // between the folder import panel and the frame's bottom
 constexpr int kAdvanceRightPx = 4;
 constexpr int kAdvanceBottomPx = 10;
 constexpr int kAdvanceImportDropPx =
@@ -60,6 +61,10 @@ CRect ImportPanelBelow(const CRect& cancel, UINT dpi) {
 
 int FrameGrowth(UINT dpi) {
     return Px(kFrameGrowthPx, dpi);
+}
+
+int MissingHeight(int clientHeight, int importPanelBottom, UINT dpi) {
+    return std::max(0, importPanelBottom + Px(kBelowImportPx, dpi) - clientHeight);
 }
 
 CRect PlaceAdvanceWindow(CSize client, CSize advance, DWORD options, std::optional<int> importPanelBottom,

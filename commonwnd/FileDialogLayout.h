@@ -29,6 +29,10 @@ CRect ImportPanelBelow(const CRect& cancel, UINT dpi);
 // The height that the frame gains for the painted caption beside what the system's own caption leaves.
 int FrameGrowth(UINT dpi);
 
+// How much taller the client area must be for the folder import panel below Cancel to be seen whole: the system may
+// have made its dialog lower after the panel was placed. 0 when it is high enough.
+int MissingHeight(int clientHeight, int importPanelBottom, UINT dpi);
+
 // The host's window in a frame whose client area has the size `client`. `importPanelBottom`: lower edge of the
 // folder import panel; none when there is no panel. The height is never negative.
 CRect PlaceAdvanceWindow(CSize client, CSize advance, DWORD options, std::optional<int> importPanelBottom,

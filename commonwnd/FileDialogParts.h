@@ -15,6 +15,7 @@ class CFileDialogParts {
     CViewBar viewBar;                     // folder up, new folder, kinds of view
     _qv_commonctrl::CQVButton helpButton; // shown to hosts that ask for it only
     CDockedWindow advance;
+    int toldCount = 0; // selected items when the selection was last looked at
 };
 
 } // namespace _qv_commonwnd

@@ -137,18 +137,38 @@ void CQVFileDialog::DockAdvanceWnd() {
     ::SetWindowPos(Frame(), nullptr, 0, 0, frame.Width(), frame.Height() + window.Height(), kSizeOnly);
     m_pParts->advance.Dock(m_pAdvanceWnd->m_hWnd, Frame());
     MoveItems();
-    std::optional<int> panelBottom;
-    if (m_wndForderImport.m_hWnd) {
-        CRect panel;
-        m_wndForderImport.GetWindowRect(&panel);
-        m_pWndEx->ScreenToClient(&panel);
-        panelBottom = panel.bottom;
-    }
-    m_pAdvanceWnd->MoveWindow(
-        PlaceAdvanceWindow(FrameClient().Size(), window.Size(), m_dwOption, panelBottom, Dpi()));
+    m_szAdvance = window.Size();
+    PlaceDockedWnd();
     TellAdvanceWnd(FILESEL_ATTACHED, reinterpret_cast<LPARAM>(this));
     m_pAdvanceWnd->ShowWindow(SW_SHOW);
-    m_szAdvance = window.Size();
+}
+
+void CQVFileDialog::PlaceDockedWnd() {
+    std::optional<int> panelBottom;
+    if (m_wndForderImport.m_hWnd)
+        panelBottom = ImportPanelBottom();
+    m_pAdvanceWnd->MoveWindow(
+        PlaceAdvanceWindow(FrameClient().Size(), m_szAdvance, m_dwOption, panelBottom, Dpi()));
+}
+
+int CQVFileDialog::ImportPanelBottom() const {
+    CRect panel;
+    m_wndForderImport.GetWindowRect(&panel);
+    m_pWndEx->ScreenToClient(&panel);
+    return panel.bottom;
+}
+
+// The system has lowered its dialog meanwhile when it hides what stood at the bottom.
+void CQVFileDialog::FitFrame() {
+    CRect frame;
+    ::GetWindowRect(Frame(), &frame);
+    const bool isBelowCancel = PlanOpenButton(m_dwOption) == OpenButtonPlace::Widened;
+    if (m_wndForderImport.m_hWnd && isBelowCancel) {
+        const int missing = MissingHeight(FrameClient().Height(), ImportPanelBottom(), Dpi());
+        ::SetWindowPos(Frame(), nullptr, 0, 0, frame.Width(), frame.Height() + missing, kSizeOnly);
+    }
+    if (HasAdvanceWnd())
+        PlaceDockedWnd();
 }
 
 // The system destroys its dialog: the host's window must not go with it, and no object may keep a window that is

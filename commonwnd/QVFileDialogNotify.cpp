@@ -23,6 +23,10 @@ DWORD SystemMajorVersion() {
     return ::GetVersionExW(&version) ? version.dwMajorVersion : 0;
 }
 
+int SelectedCount(HWND list) {
+    return list ? static_cast<int>(::SendMessageW(list, LVM_GETSELECTEDCOUNT, 0, 0)) : 0;
+}
+
 } // namespace
 
 BOOL CQVFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
@@ -56,6 +60,7 @@ void CQVFileDialog::OnDialogInitDone() {
     if (!m_pWndEx->m_hWnd)
         return;
     m_pWndEx->ModifyStyle(0, WS_CLIPCHILDREN);
+    FitFrame();
     const CSize screen(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
     const CPoint place = CentredOnScreen(screen, FrameClient().Size());
     m_pWndEx->SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -71,13 +76,20 @@ void CQVFileDialog::OnTypeChanged() {
 void CQVFileDialog::OnSelectionChange() {
     m_btnOK.Invalidate();
     const HWND list = ShellListOf(Frame());
-    const int count = list ? static_cast<int>(::SendMessageW(list, LVM_GETSELECTEDCOUNT, 0, 0)) : 0;
+    const int count = SelectedCount(list);
+    m_pParts->toldCount = count;
     if (count <= 0)
         OnNothingSelected();
     else if (count == 1)
         OnOneSelected(list);
     else
         OnSeveralSelected(list, count);
+}
+
+// Not every system tells when an item is unselected.
+void CQVFileDialog::OnListSelection() {
+    if (SelectedCount(ShellListOf(Frame())) != m_pParts->toldCount)
+        OnSelectionChange();
 }
 
 void CQVFileDialog::OnNothingSelected() {
@@ -87,7 +99,7 @@ void CQVFileDialog::OnNothingSelected() {
 }
 
 void CQVFileDialog::OnOneSelected(HWND list) {
-    const SelectedItem item = FindSelectedItem(*this, list);
+    const SelectedItem item = FindSelectedItem(*this, list, SelectionCount::One);
     m_strSelPath.Empty();
     switch (item.kind) {
     case SelectedKind::Missing:
@@ -132,7 +144,7 @@ void CQVFileDialog::OnSeveralSelected(HWND list, int count) {
     ForgetSelection();
     if (!HasAdvanceWnd())
         return;
-    const SelectedItem item = FindSelectedItem(*this, list);
+    const SelectedItem item = FindSelectedItem(*this, list, SelectionCount::Several);
     if (item.kind == SelectedKind::File && !item.isFolder)
         TellAdvanceWnd(FILESEL_ONE, reinterpret_cast<LPARAM>(item.path.GetString()));
     TellAdvanceWnd(FILESEL_SEVERAL, reinterpret_cast<LPARAM>(&count));
@@ -163,6 +175,8 @@ void CQVFileDialog::SkinShellView(HWND view, HWND list) {
     DropEdge(list);
     QV_ReplaceWnd(list);
     m_pListView->SetHeaderObject(&m_header);
+    m_pListView->SetSelectionAction([this] { OnListSelection(); });
+    m_pParts->toldCount = 0;
     if (const auto header = reinterpret_cast<HWND>(::SendMessageW(list, LVM_GETHEADER, 0, 0)))
         m_header.SubclassWindow(header);
     SetPlainGround(list, QV_GetSysColor(QVCLR_GROUND));

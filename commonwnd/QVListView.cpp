@@ -10,6 +10,12 @@ namespace _qv_commonwnd {
 
 using namespace _qv_commonctrl;
 
+namespace {
+
+const UINT g_nSelectionSettled = ::RegisterWindowMessageW(L"QVCommonWndU.SelectionSettled");
+
+}
+
 IMPLEMENT_DYNAMIC(CQVListView, CWnd)
 
 BEGIN_MESSAGE_MAP(CQVListView, CWnd)
@@ -19,6 +25,7 @@ BEGIN_MESSAGE_MAP(CQVListView, CWnd)
     ON_WM_CTLCOLOR()
     ON_WM_VSCROLL()
     ON_MESSAGE(WM_QV_LISTSKIN, OnListSkin)
+    ON_REGISTERED_MESSAGE(g_nSelectionSettled, OnSelectionSettled)
 END_MESSAGE_MAP()
 
 namespace {
@@ -52,6 +59,7 @@ CQVListView::~CQVListView() = default;
 void CQVListView::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
     AttachSkin(this);
+    m_bSelectionAsked = false;
 }
 
 void CQVListView::OnSkinChange(UINT reason, HWND wnd) {
@@ -89,8 +97,9 @@ LRESULT CQVListView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case LVM_INSERTCOLUMNW:
     case LVM_INSERTCOLUMNA:
     case LVM_SETVIEW:
-    case WM_STYLECHANGED:
+    case WM_STYLECHANGED: // another view: the list repaints its items only, not where they were
         TakeHeader();
+        Invalidate(FALSE);
         break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -101,14 +110,34 @@ LRESULT CQVListView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// The shell's view sends its list's custom draw back to the list.
+// The shell's view sends its list's notifications back to the list.
 BOOL CQVListView::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    if (message == WM_NOTIFY && pResult &&
-        reinterpret_cast<const NMHDR*>(lParam)->code == static_cast<UINT>(NM_CUSTOMDRAW)) {
+    if (message != WM_NOTIFY || !pResult)
+        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    switch (static_cast<int>(reinterpret_cast<const NMHDR*>(lParam)->code)) {
+    case static_cast<int>(NM_CUSTOMDRAW):
         *pResult = QV_PaintListItem(*reinterpret_cast<NMLVCUSTOMDRAW*>(lParam));
         return TRUE;
+    case static_cast<int>(LVN_ITEMCHANGED):
+        NoteItemChange(*reinterpret_cast<const NMLISTVIEW*>(lParam));
+        return FALSE; // the view wants to know, too
+    default:
+        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
     }
-    return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+}
+
+void CQVListView::NoteItemChange(const NMLISTVIEW& change) {
+    const bool isSelection =
+        (change.uChanged & LVIF_STATE) && ((change.uOldState ^ change.uNewState) & LVIS_SELECTED);
+    if (isSelection && !m_bSelectionAsked)
+        m_bSelectionAsked = PostMessage(g_nSelectionSettled) != FALSE;
+}
+
+LRESULT CQVListView::OnSelectionSettled(WPARAM, LPARAM) {
+    m_bSelectionAsked = false;
+    if (m_selectionAction)
+        m_selectionAction();
+    return 0;
 }
 
 void CQVListView::OnNcPaint() {

@@ -4,6 +4,8 @@
 #include <QVBaseCtrl.h>
 #include <QVListControls.h>
 
+#include <functional>
+
 namespace _qv_commonwnd {
 
 class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
@@ -15,6 +17,9 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
 
     // The object that wears the list's header as soon as there is one; borrowed.
     void SetHeaderObject(_qv_commonctrl::CQVHeaderCtrl* header) { m_pHeader = header; }
+
+    // Called once after items have been selected or unselected, however many.
+    void SetSelectionAction(std::function<void()> action) { m_selectionAction = std::move(action); }
 
     void OnSkinChange(UINT reason, HWND wnd) override;
 
@@ -29,13 +34,17 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg LRESULT OnListSkin(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSelectionSettled(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
   private:
     void ApplyColors();
     void TakeHeader();
+    void NoteItemChange(const NMLISTVIEW& change);
 
     _qv_commonctrl::CQVHeaderCtrl* m_pHeader = nullptr;
+    std::function<void()> m_selectionAction;
+    bool m_bSelectionAsked = false; // a look at the selection is due
 };
 
 } // namespace _qv_commonwnd

@@ -53,15 +53,25 @@ CString FirstSelectedText(HWND list) {
     return CString(record.pszText);
 }
 
-SelectedItem FindSelectedItem(const CFileDialog& dialog, HWND list) {
+bool IsPathOf(const CString& path, const CString& shown) {
+    const CString name = path.Mid(path.ReverseFind(L'\\') + 1);
+    return name.CompareNoCase(shown) == 0 ||
+           name.Left(shown.GetLength() + 1).CompareNoCase(shown + L".") == 0;
+}
+
+SelectedItem FindSelectedItem(const CFileDialog& dialog, HWND list, SelectionCount count) {
     SelectedItem item;
-    item.path = dialog.GetPathName();
-    item.name = dialog.GetFileTitle();
-    if (item.path.IsEmpty() || dialog.GetFileExt().IsEmpty()) {
+    const CString shown = FirstSelectedText(list);
+    if (count == SelectionCount::One) {
+        item.path = dialog.GetPathName();
+        item.name = dialog.GetFileTitle();
+    }
+    // The name field keeps the last file's name while a folder is selected, and all names of several.
+    if (item.path.IsEmpty() || dialog.GetFileExt().IsEmpty() || !IsPathOf(item.path, shown)) {
         CString folder = dialog.GetFolderPath();
-        if (!folder.IsEmpty())
+        if (!folder.IsEmpty() && folder.Right(1) != L"\\")
             folder += L"\\";
-        item.name = FirstSelectedText(list);
+        item.name = shown;
         item.path = folder + item.name;
     }
     LookUp(item);

@@ -18,8 +18,13 @@ struct SelectedItem {
     BOOL isFolder = FALSE; // a folder of either kind
 };
 
-// The item that the dialog is at; when the dialog does not know it, the first selected one of the list.
-SelectedItem FindSelectedItem(const CFileDialog& dialog, HWND list);
+enum class SelectionCount { One, Several };
+
+// The selected item, of several the first: as the dialog has it, or else as the list shows it.
+SelectedItem FindSelectedItem(const CFileDialog& dialog, HWND list, SelectionCount count);
+
+// Whether a path is that of an item of this name; a list may show names without their extension.
+bool IsPathOf(const CString& path, const CString& shown);
 
 // Text of the first selected item; empty when there is none.
 CString FirstSelectedText(HWND list);

@@ -182,6 +182,9 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void TakeControls();
     void CreatePanels();
     void DockAdvanceWnd();
+    void PlaceDockedWnd();
+    int ImportPanelBottom() const;
+    void FitFrame();
     void ReleaseWindows();
     void MoveChild(HWND child);
     void PlaceMoved(HWND child, const CRect& place);
@@ -191,6 +194,7 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
 
     void OnDialogInitDone();
     void OnSelectionChange();
+    void OnListSelection();
     void OnFolderChanged();
     void OnTypeChanged();
     void OnNothingSelected();

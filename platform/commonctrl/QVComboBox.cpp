@@ -80,6 +80,10 @@ CQVComboLBox* CQVComboBox::CreateListObject() {
     return new CQVComboLBox;
 }
 
+BOOL CQVComboBox::HasEditField() const {
+    return m_pImpl->IsEditable();
+}
+
 void CQVComboBox::OnSkinChange(UINT reason, HWND wnd) {
     CQVBaseCtrl::OnSkinChange(reason, wnd);
 }

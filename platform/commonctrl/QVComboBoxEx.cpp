@@ -20,6 +20,7 @@ class InnerCombo : public CQVComboBox {
 
   protected:
     void DrawEntry(CDC* dc, int item, const CRect& rect, UINT itemState) override;
+    BOOL HasEditField() const override { return ::SendMessageW(m_outer, CBEM_GETEDITCONTROL, 0, 0) != 0; }
 
   private:
     void DrawText(CDC* dc, const CString& text, CRect rect, UINT itemState) const;

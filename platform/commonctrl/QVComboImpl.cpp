@@ -100,12 +100,13 @@ void CQVComboImpl::Paint(CDC* dc, const CRect& client) {
     CRect field(client);
     if (Kind() == CBS_SIMPLE) // the list stands below the field as a child
         field.bottom = std::min<LONG>(field.bottom, info.rcItem.bottom + info.rcItem.top);
+    const bool likeEdit = m_combo.HasEditField() != FALSE;
     BoxLook look;
-    look.fill = IsEditable() && !disabled ? QV_GetSysColor(QVCLR_LIST) : ControlFill(state);
-    look.border = QV_GetSysColor(disabled                       ? QVCLR_GRID
-                                 : HasFocus() || IsDropped()    ? QVCLR_ACCENT
-                                 : IsEditable() && !hot.IsHot() ? QVCLR_EDIT_FRAME_INNER
-                                                                : QVCLR_CTRL_BORDER);
+    look.fill = likeEdit && !disabled ? QV_GetSysColor(QVCLR_LIST) : ControlFill(state);
+    look.border = QV_GetSysColor(disabled                    ? QVCLR_GRID
+                                 : HasFocus() || IsDropped() ? QVCLR_ACCENT
+                                 : likeEdit && !hot.IsHot()  ? QVCLR_EDIT_FRAME_INNER
+                                                             : QVCLR_CTRL_BORDER);
     look.borderPx = Px(HasFocus() && !disabled ? kFocusLinePx : 1);
     look.radiusPx = Px(kCornerPx);
     DrawBox(dc, field, look);

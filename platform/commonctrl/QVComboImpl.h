@@ -31,6 +31,7 @@ class CQVComboImpl {
     COLORREF EntryTextColor(UINT itemState) const;
     void DrawByParent(CDC* dc, int item, const CRect& rect, UINT itemState) const;
     bool HasStrings() const;
+    bool IsEditable() const { return Kind() != CBS_DROPDOWNLIST; }
     CString EntryText(int item) const;
 
     HotTracker hot;
@@ -38,7 +39,6 @@ class CQVComboImpl {
   private:
     HWND Wnd() const { return m_combo.m_hWnd; }
     DWORD Kind() const { return WindowStyle(Wnd()) & (CBS_SIMPLE | CBS_DROPDOWN); }
-    bool IsEditable() const { return Kind() != CBS_DROPDOWNLIST; }
     int Px(int px96) const { return QV_ScalePx(Wnd(), px96); }
     bool HasFocus() const;
     bool IsDropped() const { return ::SendMessageW(Wnd(), CB_GETDROPPEDSTATE, 0, 0) != 0; }

@@ -153,7 +153,8 @@ void ItemPainter::PaintReportTexts() {
         LVCOLUMNW record = {};
         record.mask = LVCF_FMT;
         SendMessageW(m_list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&record));
-        const int justify = record.fmt & LVCFMT_JUSTIFYMASK;
+        // The first column is to the left whatever its format says.
+        const int justify = column == 0 ? LVCFMT_LEFT : record.fmt & LVCFMT_JUSTIFYMASK;
         const UINT side = justify == LVCFMT_RIGHT ? DT_RIGHT : justify == LVCFMT_CENTER ? DT_CENTER : DT_LEFT;
         cell.DeflateRect(QV_ScaleForDpi(column == 0 ? kLabelMarginPx : kCellMarginPx, m_dpi), 0);
         DrawTextIn(m_dc, TextOf(column), cell, side | kLineFormat, m_font,

@@ -64,6 +64,8 @@ class QVCOMMONCTRL_API CQVComboBox : public CComboBox, public CQVBaseCtrl {
     virtual void DrawEntry(CDC* dc, int item, const CRect& rect, UINT itemState);
     // Makes the object for the drop-down list; the combo box owns it.
     virtual CQVComboLBox* CreateListObject();
+    // Whether an edit field lies over the closed field, which then looks like one. The base asks the style.
+    virtual BOOL HasEditField() const;
 
   private:
     friend class CQVComboImpl;

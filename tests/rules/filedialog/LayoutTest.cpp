@@ -49,6 +49,14 @@ TEST(FileDialogLayout, ImportPanelStandsBelowCancel) {
     EXPECT_TRUE(CRect(400, 58, 495, 83) == ImportPanelBelow(CRect(400, 25, 495, 50), k192));
 }
 
+TEST(FileDialogLayout, FrameIsHighEnoughForTheImportPanel) {
+    EXPECT_EQ(16, MissingHeight(416, 422, k96));
+    EXPECT_EQ(0, MissingHeight(432, 422, k96));
+    EXPECT_EQ(1, MissingHeight(431, 422, k96));
+    EXPECT_EQ(0, MissingHeight(1000, 422, k96));
+    EXPECT_EQ(26, MissingHeight(416, 422, k192));
+}
+
 struct AdvanceCase {
     const char* name;
     CSize client;

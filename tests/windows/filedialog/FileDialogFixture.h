@@ -25,6 +25,12 @@ inline constexpr int kOk = 1;
 inline constexpr int kCancel = 2;
 inline constexpr int kFileTypeCombo = 1136;
 inline constexpr int kFileNameCombo = 1148;
+inline constexpr int kLookInCombo = 1137;
+inline constexpr int kPlacesBar = 1184;
+// Children that the dialog makes.
+inline constexpr int kImportPanel = 1000;
+inline constexpr int kImportButton = 1001; // inside the panel
+inline constexpr int kPsdPanel = 10001;
 
 // The dialog with its protected members open to the tests.
 class TestFileDialog : public CQVFileDialog {
@@ -39,7 +45,10 @@ class TestFileDialog : public CQVFileDialog {
     using CQVFileDialog::m_dwPsdState;
     using CQVFileDialog::m_eSelType;
     using CQVFileDialog::m_pAdvanceWnd;
+    using CQVFileDialog::m_pSkinnedList;
     using CQVFileDialog::m_strSelPath;
+    using CQVFileDialog::m_szAdvance;
+    using CQVFileDialog::ShowPsdOptionWnd;
     using CQVFileDialog::SpliteFiles;
     using CQVFileDialog::TestTempFilePath;
 };
