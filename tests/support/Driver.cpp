@@ -134,11 +134,12 @@ void Driver::click(HWND dialog, int id) {
 }
 
 void Driver::clickAt(HWND window, POINT client, MouseButton button, unsigned modifiers) {
+    hover(window, client);
+    settle(); // a pointer that still moves may tell the window server that no key is held
     if (modifiers & Control)
         keyEvent(VK_CONTROL, true);
     if (modifiers & Shift)
         keyEvent(VK_SHIFT, true);
-    hover(window, client);
     mouseDown(button);
     settle();
     mouseUp(button);
