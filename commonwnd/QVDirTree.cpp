@@ -34,6 +34,8 @@ void QV_ReleaseDirTree(CWnd* pTree) {
     delete pTree;
 }
 
+// The exported signature takes the key by value.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void QV_InitFilePath(CQVDirTreeCtrl* pTree, CString strKey, int bSave) {
     if (!pTree)
         return;

@@ -22,8 +22,8 @@ IMPLEMENT_DYNAMIC(CQVFilePathShowTip, CQVDialog)
 BEGIN_MESSAGE_MAP(CQVFilePathShowTip, CQVDialog)
     ON_WM_ERASEBKGND()
     ON_WM_DESTROY()
-    ON_BN_CLICKED(IDOK, OnBnClickedOk)
-    ON_BN_CLICKED(IDCANCEL, OnBnClickedCancel)
+    ON_BN_CLICKED(IDOK, &CQVFilePathShowTip::OnBnClickedOk)
+    ON_BN_CLICKED(IDCANCEL, &CQVFilePathShowTip::OnBnClickedCancel)
 END_MESSAGE_MAP()
 
 CQVFilePathShowTip::CQVFilePathShowTip(CWnd* parent) : CQVDialog(IDD_MISSINGFILES, parent) {

@@ -29,12 +29,12 @@ PathState StateOf(const CString& path) {
 IMPLEMENT_DYNAMIC(CQVSetResPath, CQVDialog)
 
 BEGIN_MESSAGE_MAP(CQVSetResPath, CQVDialog)
-    ON_BN_CLICKED(IDC_RESPATH_BROWSE, OnBnClickedButton1)
-    ON_BN_CLICKED(IDC_MEDIAPATH_BROWSE, OnBnClickedButton2)
-    ON_BN_CLICKED(IDOK, OnBnClickedOk)
-    ON_BN_CLICKED(IDCANCEL, OnBnClickedCancel)
-    ON_EN_CHANGE(IDC_RESPATH_EDIT, OnEnChangeRespath)
-    ON_EN_CHANGE(IDC_MEDIAPATH_EDIT, OnEnChangeFilepath)
+    ON_BN_CLICKED(IDC_RESPATH_BROWSE, &CQVSetResPath::OnBnClickedButton1)
+    ON_BN_CLICKED(IDC_MEDIAPATH_BROWSE, &CQVSetResPath::OnBnClickedButton2)
+    ON_BN_CLICKED(IDOK, &CQVSetResPath::OnBnClickedOk)
+    ON_BN_CLICKED(IDCANCEL, &CQVSetResPath::OnBnClickedCancel)
+    ON_EN_CHANGE(IDC_RESPATH_EDIT, &CQVSetResPath::OnEnChangeRespath)
+    ON_EN_CHANGE(IDC_MEDIAPATH_EDIT, &CQVSetResPath::OnEnChangeFilepath)
 END_MESSAGE_MAP()
 
 CQVSetResPath::CQVSetResPath(CWnd* parent) : CQVDialog(IDD_SETRESPATH, parent) {

@@ -3,6 +3,8 @@
 #include "PictureFile.h"
 #include "res/resource.h"
 
+#include <algorithm>
+
 using namespace _qv_commonctrl;
 
 namespace {
@@ -109,32 +111,45 @@ void CGalleryWnd::OnSkinChange(UINT reason, HWND wnd) {
 void CGalleryWnd::OnOK() {
 }
 
-// The buttons are made before the base initialises, so that it skins them as it does the template's controls.
+// The buttons are made before the base initialises, so that it skins them as it does the template's controls. A group
+// that does not fit below the others begins a second column.
 void CGalleryWnd::CreateItems() {
-    const auto& items = GalleryItems();
     auto px = [this](int value) { return QV_ScalePx(m_hWnd, value); };
-    int top = px(kColumnTopPx);
+    CRect client;
+    GetClientRect(&client);
+    CPoint corner(px(kColumnLeftPx), px(kColumnTopPx));
     for (const auto& title : kGroups) {
-        bool any = false;
-        for (const auto& item : items)
-            any = any || item.group == title.group;
-        if (!any)
+        const int height = GroupHeight(title.group);
+        if (height == 0)
             continue;
-        const UINT titleId = IDC_GALLERY_FIRST_GROUP + static_cast<UINT>(title.group);
-        CreateControl(L"STATIC", SS_LEFT | SS_CENTERIMAGE,
-                      CRect(CPoint(px(kColumnLeftPx), top), CSize(px(kColumnWidthPx), px(kTitleHeightPx))),
-                      titleId);
-        top += px(kTitleHeightPx + kButtonGapPx);
-        for (size_t i = 0; i < items.size(); ++i) {
-            if (items[i].group != title.group)
-                continue;
-            CreateControl(
-                L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP,
-                CRect(CPoint(px(kColumnLeftPx), top), CSize(px(kColumnWidthPx), px(kButtonHeightPx))),
-                IDC_GALLERY_FIRST_ITEM + static_cast<UINT>(i));
-            top += px(kButtonHeightPx + kButtonGapPx);
-        }
-        top += px(kGroupGapPx - kButtonGapPx);
+        if (corner.y + height > client.bottom && corner.y > px(kColumnTopPx))
+            corner = CPoint(corner.x + px(kColumnWidthPx + kColumnLeftPx), px(kColumnTopPx));
+        CreateGroup(title.group, corner);
+        corner.y += height + px(kGroupGapPx);
+    }
+}
+
+int CGalleryWnd::GroupHeight(GalleryGroup group) const {
+    const auto& items = GalleryItems();
+    const auto count = static_cast<int>(std::count_if(
+        items.begin(), items.end(), [&](const GalleryItem& item) { return item.group == group; }));
+    return count == 0 ? 0 : QV_ScalePx(m_hWnd, kTitleHeightPx + count * (kButtonGapPx + kButtonHeightPx));
+}
+
+void CGalleryWnd::CreateGroup(GalleryGroup group, CPoint corner) {
+    auto px = [this](int value) { return QV_ScalePx(m_hWnd, value); };
+    CreateControl(L"STATIC", SS_LEFT | SS_CENTERIMAGE,
+                  CRect(corner, CSize(px(kColumnWidthPx), px(kTitleHeightPx))),
+                  IDC_GALLERY_FIRST_GROUP + static_cast<UINT>(group));
+    corner.y += px(kTitleHeightPx + kButtonGapPx);
+    const auto& items = GalleryItems();
+    for (size_t i = 0; i < items.size(); ++i) {
+        if (items[i].group != group)
+            continue;
+        CreateControl(L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP,
+                      CRect(corner, CSize(px(kColumnWidthPx), px(kButtonHeightPx))),
+                      IDC_GALLERY_FIRST_ITEM + static_cast<UINT>(i));
+        corner.y += px(kButtonHeightPx + kButtonGapPx);
     }
 }
 

@@ -29,6 +29,8 @@ class CGalleryWnd : public _qv_commonctrl::CQVDialog, public IGalleryContext {
 
   private:
     void CreateItems();
+    int GroupHeight(GalleryGroup group) const; // pixels, 0 without entries
+    void CreateGroup(GalleryGroup group, CPoint corner);
     void CreateControl(const wchar_t* windowClass, DWORD style, const CRect& rect, UINT id);
     void FillChoices();
     void ShowTexts();

@@ -7,7 +7,6 @@
 namespace paths_test {
 
 using qvtest::findControl;
-using qvtest::findDescendant;
 using qvtest::Picture;
 using qvtest::textOf;
 
@@ -214,6 +213,7 @@ TEST_F(MissingFiles, LocksItsParentMeanwhile) {
 
 TEST_F(MissingFiles, LongListScrollsByWheelAndKeys) {
     std::vector<CString> files;
+    files.reserve(500);
     for (int i = 0; i < 500; ++i) {
         CString path;
         path.Format(L"Z:\\projects\\documentary\\clip %03d.mxf", i);
@@ -233,9 +233,7 @@ TEST_F(MissingFiles, LongListScrollsByWheelAndKeys) {
 }
 
 TEST_F(MissingFiles, IsSkinned) {
-    std::vector<CString> files;
-    for (int i = 0; i < 40; ++i)
-        files.push_back(L"\\\\server\\media\\documentary\\harbour\\interview_day2_camB.mxf");
+    const std::vector<CString> files(40, L"\\\\server\\media\\documentary\\harbour\\interview_day2_camB.mxf");
     for (const wchar_t* skin : {L"dark", L"light"}) {
         ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin).c_str()));
         Ask(files, [&](Driver& user, HWND prompt) {
