@@ -134,6 +134,14 @@ const SystemHandleList* querySystemHandles() {
     return status == 0 ? reinterpret_cast<const SystemHandleList*>(buffer.data()) : nullptr;
 }
 
+template <class Action> void forEachHeap(Action action) {
+    constexpr DWORD kMaxHeaps = 64;
+    HANDLE heaps[kMaxHeaps];
+    const DWORD heapCount = std::min(GetProcessHeaps(kMaxHeaps, heaps), kMaxHeaps);
+    for (DWORD i = 0; i < heapCount; ++i)
+        action(heaps[i]);
+}
+
 } // namespace
 
 Census Census::take() {
@@ -191,22 +199,28 @@ void Census::countThreads() {
     CloseHandle(snapshot);
 }
 
+void Census::fillQueueOfFreedBlocks() {
+    constexpr int kMoreThanTheQueue = 2048;
+    constexpr SIZE_T kSmallBlockBytes = 40;
+    forEachHeap([](HANDLE heap) {
+        for (int i = 0; i < kMoreThanTheQueue; ++i)
+            HeapFree(heap, 0, HeapAlloc(heap, 0, kSmallBlockBytes));
+    });
+}
+
 void Census::countHeaps() {
-    constexpr DWORD kMaxHeaps = 64;
-    HANDLE heaps[kMaxHeaps];
-    const DWORD heapCount = std::min(GetProcessHeaps(kMaxHeaps, heaps), kMaxHeaps);
     long blocks = 0;
-    for (DWORD i = 0; i < heapCount; ++i) {
+    forEachHeap([&](HANDLE heap) {
         PROCESS_HEAP_ENTRY entry = {};
-        HeapLock(heaps[i]);
-        while (HeapWalk(heaps[i], &entry)) {
+        HeapLock(heap);
+        while (HeapWalk(heap, &entry)) {
             if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) {
                 ++blocks;
                 m_heapBytes += entry.cbData;
             }
         }
-        HeapUnlock(heaps[i]);
-    }
+        HeapUnlock(heap);
+    });
     m_counts["heap block"] = blocks;
 }
 

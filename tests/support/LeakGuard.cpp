@@ -25,6 +25,7 @@ Census takeWhenQuiet(const Census& before, long heapTolerance) {
 
 LeakGuard::LeakGuard() {
     Census::take(); // its own first-time blocks
+    Census::fillQueueOfFreedBlocks();
     m_before = Census::take();
 }
 

@@ -59,6 +59,7 @@ TEST(Temporaries, AModalLoopRemovesWhatWasMadeInIt) {
     ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0));
     wnd.pens = MakePens();
     CPen* const outer = CPen::FromHandle(wnd.pens[0]);
+    qvtest::Census::fillQueueOfFreedBlocks();
     wnd.blocksBefore = HeapBlocks();
     EXPECT_EQ(IDOK, wnd.RunModalLoop(MLF_NOIDLEMSG));
     EXPECT_LT(wnd.blocksAtSecondIdle - wnd.blocksBefore, kPens / 4);
@@ -70,6 +71,7 @@ TEST(Temporaries, AModalLoopRemovesWhatWasMadeInIt) {
 
 TEST(Temporaries, BorrowingCostsOneObjectAHandle) {
     const std::vector<HPEN> pens = MakePens();
+    qvtest::Census::fillQueueOfFreedBlocks();
     const long before = HeapBlocks();
     Borrow(pens);
     const long once = HeapBlocks();
