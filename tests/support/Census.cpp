@@ -229,6 +229,13 @@ long Census::count(const std::string& kind) const {
     return it == m_counts.end() ? 0 : it->second;
 }
 
+Census Census::plusGrowth(const Census& from, const Census& to) const {
+    Census sum = *this;
+    for (const auto& [kind, after] : to.m_counts)
+        sum.m_counts[kind] += after - from.count(kind);
+    return sum;
+}
+
 std::string Census::moreThan(const Census& before, long heapTolerance) const {
     std::map<std::string, long> kinds = m_counts;
     kinds.insert(before.m_counts.begin(), before.m_counts.end());

@@ -37,6 +37,9 @@ class Census {
     // that many.
     std::string moreThan(const Census& before, long heapTolerance = -1) const;
 
+    // This census and what was added from one other to a later one.
+    Census plusGrowth(const Census& from, const Census& to) const;
+
   private:
     void countGdi();
     void countUser();
