@@ -27,7 +27,7 @@ function(qv_add_test_program name)
     include(GoogleTest)
     gtest_discover_tests(${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
       NO_PRETTY_VALUES
-      PROPERTIES TIMEOUT 120 LABELS window ENVIRONMENT "QV_TEST_RUN=window:${QV_STAGE}"
+      PROPERTIES TIMEOUT 300 LABELS window ENVIRONMENT "QV_TEST_RUN=window:${QV_STAGE}"
       FAIL_REGULAR_EXPRESSION "${crash}")
   else()
     add_test(NAME ${name} COMMAND ${name})

@@ -131,6 +131,12 @@ void CQVCheckComboBox::Toggle(int item) {
     SetCheck(item, !GetCheck(item));
 }
 
+// An open list closes before the system tells of the destruction.
+BOOL CQVCheckComboBox::DestroyWindow() {
+    m_pCheckImpl->destroying = true;
+    return CQVComboBox::DestroyWindow();
+}
+
 void CQVCheckComboBox::OnListClosed() {
     const HWND parent = ::GetParent(m_hWnd);
     if (!m_pCheckImpl->destroying && parent)

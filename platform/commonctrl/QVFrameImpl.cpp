@@ -141,6 +141,13 @@ bool CQVFrameImpl::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& r
         Paint(PaintPart::All);
         result = TRUE;
         return true;
+    case WM_ACTIVATE:
+        // The last word: a window activated before its program comes to the foreground may have been told otherwise.
+        if (m_active != (LOWORD(wParam) != WA_INACTIVE)) {
+            m_active = !m_active;
+            Paint(PaintPart::All);
+        }
+        return false;
     case WM_SETTEXT:
         result = ::DefWindowProcW(m_wnd, message, wParam, lParam);
         Paint(PaintPart::All);

@@ -36,6 +36,11 @@ Kind KindOf(DWORD style) {
     }
 }
 
+bool IsLine(DWORD style) {
+    const Kind kind = KindOf(style);
+    return kind == Kind::LineAcross || kind == Kind::LineDown;
+}
+
 int RectangleColor(DWORD style) {
     switch (style & SS_TYPEMASK) {
     case SS_BLACKRECT:
@@ -167,7 +172,13 @@ LRESULT CQVStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_PRINTCLIENT:
         PaintBuffered(m_hWnd, wParam, [this](CDC* dc, const CRect& client) { Paint(dc, client); });
         return 0;
+    case WM_NCCALCSIZE:
+        if (IsLine(GetStyle()))
+            return 0; // the system makes a line of the sunken edges around nothing
+        return CStatic::WindowProc(message, wParam, lParam);
     case WM_NCPAINT: {
+        if (IsLine(GetStyle()))
+            return 0;
         const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
         PaintBorder(m_hWnd, QVCLR_CAPTION_LINE, QVCLR_CAPTION_LINE);
         return result;

@@ -188,6 +188,9 @@ void CWnd::OnNcDestroy() {
         state.thread->m_pMainWnd = nullptr;
         AfxPostQuitMessage(0);
     }
+    // The window's modal loop may be waiting for a message, with a sent one the cause of this.
+    if (m_nFlags & WF_MODALLOOP)
+        ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
     const HWND hWnd = m_hWnd;
     Default();
     WNDPROC& super = *GetSuperWndProcAddr();

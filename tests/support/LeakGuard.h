@@ -33,7 +33,7 @@ class LeakGuard {
 // What the platform itself loses in a run, measured without any of our code.
 struct PlatformLoss {
     // The same with the system's own windows; what as many runs of it leave behind is allowed. Empty: nothing.
-    std::function<void()> bare;
+    std::function<void()> bare = {};
     // Heap blocks. The platform's static control of the newer common controls loses one at each font it is given.
     long heapBlocks = 0;
 };

@@ -104,6 +104,7 @@ class QVCOMMONCTRL_API CQVCheckComboBox : public CQVComboBox {
   public:
     CQVCheckComboBox();
     ~CQVCheckComboBox() override;
+    BOOL DestroyWindow() override;
 
     // Check state of entry `item` (0-based): 1 or 0; an index outside the list is 0 / ignored (FALSE).
     int GetCheck(int item) const;

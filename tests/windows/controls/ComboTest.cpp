@@ -91,22 +91,6 @@ TEST_F(Controls, ComboListPixels) {
     dialog.DestroyWindow();
 }
 
-TEST_F(Controls, ComboItemHeights) {
-    TestDialog dialog(IDD_GALLERY);
-    dialog.Open();
-    const HWND combo = dialog.Item(IDC_LIST_COMBO);
-    Fill(combo);
-    ::SendMessageW(combo, CB_SETITEMHEIGHT, 0, 16);
-    ::SendMessageW(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), 16);
-    EXPECT_EQ(16, ::SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
-    EXPECT_EQ(16, ::SendMessageW(combo, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0));
-    ::SetFocus(combo);
-    ::SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
-    EXPECT_EQ(16, RowOf(ListOf(combo), 0).Height());
-    ::SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
-    dialog.DestroyWindow();
-}
-
 TEST_F(Controls, ComboByKeyboardAndMouse) {
     TestDialog dialog(IDD_GALLERY);
     qvtest::ModalScript script;

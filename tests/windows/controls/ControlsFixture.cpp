@@ -1,6 +1,11 @@
 #include "ControlsFixture.h"
 
 namespace controls_test {
+namespace {
+
+constexpr ULONGLONG kForegroundMs = 5000;
+
+} // namespace
 
 void Pump() {
     MSG message;
@@ -19,7 +24,12 @@ void TestDialog::Open() {
     ASSERT_TRUE(Create(m_templateId));
     ShowWindow(SW_SHOW);
     SetForegroundWindow();
-    Pump();
+    // The window server grants the foreground when it gets round to it.
+    const ULONGLONG deadline = ::GetTickCount64() + kForegroundMs;
+    do
+        Pump();
+    while (::GetForegroundWindow() != m_hWnd && ::GetTickCount64() < deadline);
+    ASSERT_EQ(m_hWnd, ::GetForegroundWindow());
 }
 
 CSize TestDialog::TemplateSize() const {

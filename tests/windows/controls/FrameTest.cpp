@@ -158,8 +158,10 @@ TEST_F(Controls, GreyedCloseButtonTakesNoClick) {
             ::SendMessageW(box, WM_NCPAINT, 1, 0);
         });
         const CPoint on = CloseButton(dialog);
-        const Picture shot = Picture::ofScreen(CRect(on.x - 9, on.y - 5, on.x - 7, on.y - 3));
-        EXPECT_EQ(QV_GetSysColor(QVCLR_CLOSE_ACTIVE + 3), shot.at(0, 0));
+        user.waitFor("the disabled colour", [&] {
+            const Picture shot = Picture::ofScreen(CRect(on.x - 9, on.y - 5, on.x - 7, on.y - 3));
+            return shot.at(0, 0) == QV_GetSysColor(QVCLR_CLOSE_ACTIVE + 3);
+        });
         user.clickAt(box, ToClient(dialog, on));
         user.press(VK_F4, qvtest::Alt);
         user.settle();

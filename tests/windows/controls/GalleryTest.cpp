@@ -6,6 +6,8 @@ namespace controls_test {
 
 namespace {
 
+constexpr int kPatchPixels = 16; // single pixels of smooth lines may hit any colour
+
 struct Text {
     int id;
     const wchar_t* english;
@@ -95,7 +97,7 @@ TEST_P(Gallery, Picture) {
     const Picture picture = WindowShot(dialog);
     picture.save(PathOf(L"controls-", skin, language));
     EXPECT_GT(picture.count(QV_GetSysColor(QVCLR_WINDOW)), picture.width() * picture.height() / 4);
-    EXPECT_EQ(0, picture.count(::GetSysColor(COLOR_BTNFACE))) << "a patch of the system's look";
+    EXPECT_LT(picture.count(::GetSysColor(COLOR_BTNFACE)), kPatchPixels) << "a patch of the system's look";
     ::SendMessageW(dialog.m_layers, CB_SHOWDROPDOWN, TRUE, 0);
     Pump();
     Picture::ofScreen().save(PathOf(L"controls-drop-", skin, language));
