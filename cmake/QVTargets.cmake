@@ -75,6 +75,8 @@ function(qv_stage_common_files)
     endif()
     qv_stage_file(${found} bin/${dll}.dll outputs)
   endforeach()
+  qv_stage_file(${CMAKE_SOURCE_DIR}/cmake/QVCommonWndConfig.cmake
+    lib/cmake/QVCommonWnd/QVCommonWndConfig.cmake outputs)
   get_property(folders GLOBAL PROPERTY QV_PUBLIC_INCLUDE_DIRS)
   foreach(folder ${folders})
     file(GLOB_RECURSE headers RELATIVE ${folder} CONFIGURE_DEPENDS ${folder}/*.h)

@@ -37,7 +37,8 @@ void LeakGuard::expectNothingLeft(long heapTolerance) const {
 void LeakGuard::allowWhatIsLeftBy(const std::function<void()>& action) {
     const Census before = Census::take();
     action();
-    m_before = m_before.plusGrowth(before, Census::take());
+    const Census after = Census::take();
+    m_before = after.plusGrowth(before, after);
 }
 
 namespace {

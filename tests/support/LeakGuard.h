@@ -23,7 +23,7 @@ class LeakGuard {
     // blocks that the heap may have grown by; negative: the heap is not looked at.
     void expectNothingLeft(long heapTolerance = -1) const;
 
-    // What an action leaves behind is the platform's own loss and allowed from here on, as often as it ran.
+    // What an action leaves behind is the platform's own loss: as much again is allowed from here on.
     void allowWhatIsLeftBy(const std::function<void()>& action);
 
   private:
