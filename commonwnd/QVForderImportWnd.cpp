@@ -25,6 +25,7 @@ BEGIN_MESSAGE_MAP(CQVForderImportWnd, CWnd)
     ON_WM_SIZE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_DESTROY()
     ON_BN_CLICKED(kImportButtonId, OnBnClickedImport)
 END_MESSAGE_MAP()
 
@@ -54,6 +55,7 @@ int CQVForderImportWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         m_btnImport.SetFont(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(GetSafeHwnd())));
         m_btnImport.EnableWindow(FALSE);
     }
+    AttachSkin(this);
     return 0;
 }
 
@@ -74,6 +76,11 @@ void CQVForderImportWnd::OnPaint() {
 
 BOOL CQVForderImportWnd::OnEraseBkgnd(CDC*) {
     return TRUE;
+}
+
+void CQVForderImportWnd::OnDestroy() {
+    DetachSkin();
+    CWnd::OnDestroy();
 }
 
 void CQVForderImportWnd::OnBnClickedImport() {

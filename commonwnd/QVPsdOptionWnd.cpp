@@ -5,6 +5,8 @@
 #include <QVMemoDC.h>
 #include <QVSkin.h>
 
+#include <algorithm>
+
 namespace _qv_commonwnd {
 
 using namespace _qv_commonctrl;
@@ -24,6 +26,24 @@ constexpr int kRenderImport = 0;
 constexpr int kLayerImport = 1;
 
 constexpr int kLabelToComboGapPx = 24;
+constexpr int kListRowHeightPx = 18; // room for a check mark
+
+int ClosedHeight(const CComboBox& combo) {
+    CRect closed;
+    combo.GetWindowRect(&closed);
+    return closed.Height();
+}
+
+// The closed field follows from the font; the row is as high as it says. What the system adds to the field's height
+// differs between its versions, so what came out is corrected once.
+void FitClosedHeight(CComboBox& combo, int heightPx) {
+    constexpr int tries = 2;
+    int field = combo.GetItemHeight(-1);
+    for (int i = 0; i < tries && field > 0 && ClosedHeight(combo) != heightPx; ++i) {
+        field += heightPx - ClosedHeight(combo);
+        combo.SetItemHeight(-1, static_cast<UINT>(std::max(1, field)));
+    }
+}
 
 } // namespace
 
@@ -60,6 +80,8 @@ int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     m_bCompileImport = TRUE;
     CreateRow(m_stcLayer, kLayerLabelId, L"IDS_FILEDLG_LAYER", m_cmbLayer, kLayerComboId);
     m_cmbLayer.EnableWindow(FALSE);
+    AttachSkin(
+        this); // behind the controls: they have taken the new skin's font when the rows are placed anew
     return 0;
 }
 
@@ -74,27 +96,39 @@ BOOL CQVPsdOptionWnd::CreateRow(CQVStatic& label, int labelId, LPCWSTR labelKey,
     if (!combo.Create(kComboStyle, dropped, this, comboId))
         return FALSE;
     combo.SetFont(QV_GetSysFont(QVFONT_UI, dpi));
+    combo.SetItemHeight(0, static_cast<UINT>(QV_ScaleForDpi(kListRowHeightPx, dpi)));
     return TRUE;
 }
 
-void CQVPsdOptionWnd::PlaceRow(CWnd& label, CWnd& combo, int topPx) {
+void CQVPsdOptionWnd::PlaceRow(CWnd& label, CQVComboBox& combo, int topPx) {
     const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
     const int comboLeft = m_nLeft + m_nLabelWidth + kLabelToComboGapPx;
     const int top = QV_ScaleForDpi(topPx, dpi);
     if (label.GetSafeHwnd())
         label.MoveWindow(QV_ScaleForDpi(m_nLeft, dpi), top, QV_ScaleForDpi(m_nLabelWidth, dpi),
                          QV_ScaleForDpi(m_nRowHeight, dpi));
-    // A combo box takes the height of its dropped list; the closed field follows from its font.
-    if (combo.GetSafeHwnd())
-        combo.MoveWindow(QV_ScaleForDpi(comboLeft, dpi), top, QV_ScaleForDpi(m_nComboWidth, dpi),
-                         QV_ScaleForDpi(m_nRowHeight + m_nDropHeight, dpi));
+    if (!combo.GetSafeHwnd())
+        return;
+    // A combo box takes the height of its dropped list.
+    combo.MoveWindow(QV_ScaleForDpi(comboLeft, dpi), top, QV_ScaleForDpi(m_nComboWidth, dpi),
+                     QV_ScaleForDpi(m_nRowHeight + m_nDropHeight, dpi));
+    FitClosedHeight(combo, QV_ScaleForDpi(m_nRowHeight, dpi));
+}
+
+void CQVPsdOptionWnd::PlaceRows() {
+    PlaceRow(m_stcImportType, m_cmbImportType, 0);
+    PlaceRow(m_stcLayer, m_cmbLayer, m_nRowHeight + m_nRowGap);
 }
 
 void CQVPsdOptionWnd::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    PlaceRow(m_stcImportType, m_cmbImportType, 0);
-    PlaceRow(m_stcLayer, m_cmbLayer, m_nRowHeight + m_nRowGap);
+    PlaceRows();
     EnableControls();
+}
+
+void CQVPsdOptionWnd::OnSkinChange(UINT reason, HWND wnd) {
+    CQVBaseCtrl::OnSkinChange(reason, wnd);
+    PlaceRows();
 }
 
 BOOL CQVPsdOptionWnd::IsLayerImportChosen() const {
@@ -124,6 +158,7 @@ void CQVPsdOptionWnd::OnPaint() {
 void CQVPsdOptionWnd::OnDestroy() {
     if (m_cmbLayer.GetSafeHwnd() && !m_bCompileImport)
         KeepChecks();
+    DetachSkin();
     CWnd::OnDestroy();
 }
 
@@ -131,18 +166,23 @@ void CQVPsdOptionWnd::ReadPsdFile(CString strPath) {
     m_arrLayerName.RemoveAll();
     if (!_qv_commonclass::CQVVideoPlay::GetPsdLayerInfo(strPath, m_arrLayerName) || !m_cmbLayer.GetSafeHwnd())
         return;
+    FillLayerList();
+    KeepChecks();
+}
+
+// The top layer, which the document stores last, stands first and is the current entry. Entries are appended: putting
+// each one before all others takes seconds for a document of tens of thousands of layers.
+void CQVPsdOptionWnd::FillLayerList() {
     m_cmbLayer.SendMessage(WM_CLEAR);
     m_cmbLayer.SetRedraw(FALSE);
     m_cmbLayer.ResetContent();
-    for (INT_PTR i = 0; i < m_arrLayerName.GetSize(); ++i) {
-        m_cmbLayer.InsertString(0, m_arrLayerName.GetAt(i));
-        m_cmbLayer.SetCheck(0, TRUE);
-    }
-    if (m_arrLayerName.GetSize() > 0)
+    const INT_PTR count = m_arrLayerName.GetSize();
+    for (INT_PTR i = count - 1; i >= 0; --i)
+        m_cmbLayer.SetCheck(m_cmbLayer.AddString(m_arrLayerName.GetAt(i)), TRUE);
+    if (count > 0)
         m_cmbLayer.SetCurSel(0);
     m_cmbLayer.SetRedraw(TRUE);
     m_cmbLayer.Invalidate(FALSE);
-    KeepChecks();
 }
 
 void CQVPsdOptionWnd::KeepChecks() {

@@ -3,13 +3,15 @@
 
 #include "QVFileDialogDefs.h"
 
+#include <QVBaseCtrl.h>
 #include <QVButton.h>
 
 namespace _qv_commonwnd {
 
 class CQVFileDialog;
 
-class QVCOMMONWND_API CQVForderImportWnd : public CWnd {
+// A child window; the file dialog creates it. It repaints itself when the skin changes.
+class QVCOMMONWND_API CQVForderImportWnd : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     DECLARE_DYNAMIC(CQVForderImportWnd)
 
   public:
@@ -30,6 +32,7 @@ class QVCOMMONWND_API CQVForderImportWnd : public CWnd {
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnDestroy();
     afx_msg void OnBnClickedImport();
     DECLARE_MESSAGE_MAP()
 

@@ -3,6 +3,7 @@
 
 #include "QVFileDialogDefs.h"
 
+#include <QVBaseCtrl.h>
 #include <QVComboBox.h>
 #include <QVStatic.h>
 
@@ -12,7 +13,7 @@ namespace _qv_commonwnd {
 
 // Two rows: the kind of import (render as one picture, or by layers) and a check-list of the layers. A child
 // window; the file dialog creates it hidden and shows it for a ".psd" file.
-class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd {
+class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     DECLARE_DYNAMIC(CQVPsdOptionWnd)
 
   public:
@@ -20,7 +21,7 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd {
     ~CQVPsdOptionWnd() override;
 
     // Reads a document's layers into the check-list, all of them checked, the top layer first. A document
-    // that cannot be read empties the layer names and leaves the list as it was.
+    // that cannot be read empties the layer names and leaves the list, and what was checked in it, as it was.
     void ReadPsdFile(CString strPath);
 
     // Whether the check-list may be enabled; it is enabled only while import by layers is chosen.
@@ -40,6 +41,8 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd {
 
     // The height the panel needs, in pixels at 96 DPI (60).
     DWORD GetMinHeight();
+
+    void OnSkinChange(UINT reason, HWND wnd) override;
 
   protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -71,7 +74,9 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd {
   private:
     BOOL CreateRow(_qv_commonctrl::CQVStatic& label, int labelId, LPCWSTR labelKey,
                    _qv_commonctrl::CQVComboBox& combo, int comboId);
-    void PlaceRow(CWnd& label, CWnd& combo, int topPx);
+    void PlaceRow(CWnd& label, _qv_commonctrl::CQVComboBox& combo, int topPx);
+    void PlaceRows();
+    void FillLayerList();
     BOOL IsLayerImportChosen() const;
     void EnableControls();
     void KeepChecks();

@@ -114,10 +114,11 @@ CString CQVCheckComboBox::GetText(int item) const {
     return text;
 }
 
-CString CQVCheckComboBox::GetCheckedTexts() const {
+// Stops when there is more than can be seen: a field is painted often, and its list may be long.
+CString CQVCheckComboBox::GetCheckedTexts(int enoughChars) const {
     CString all;
     const int count = GetCount();
-    for (int item = 0; item < count; ++item) {
+    for (int item = 0; item < count && all.GetLength() <= enoughChars; ++item) {
         if (!GetCheck(item))
             continue;
         if (!all.IsEmpty())
@@ -163,7 +164,7 @@ void CQVCheckComboBox::DrawEntry(CDC* dc, int item, const CRect& rect, UINT item
     const int color = itemState & ODS_DISABLED ? QVCLR_TEXT_DISABLED
                       : selected               ? QVCLR_TEXT_SELECTED
                                                : QVCLR_TEXT_WINDOW;
-    DrawTextIn(dc, field ? GetCheckedTexts() : GetText(item), place,
+    DrawTextIn(dc, field ? GetCheckedTexts(place.Width()) : GetText(item), place,
                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS, WindowFontOf(m_hWnd),
                QV_GetSysColor(color));
 }

@@ -123,7 +123,7 @@ class QVCOMMONCTRL_API CQVCheckComboBox : public CQVComboBox {
     void Toggle(int item);
     void OnListClosed();
     void FollowEntries(UINT message, WPARAM wParam, LRESULT result);
-    CString GetCheckedTexts() const;
+    CString GetCheckedTexts(int enoughChars) const;
 
     class CQVCheckComboImpl* m_pCheckImpl;
 };
