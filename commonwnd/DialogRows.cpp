@@ -3,6 +3,7 @@
 #include "WindowText.h"
 
 #include <QVButton.h>
+#include <QVSkin.h>
 #include <QVStatic.h>
 
 #include <algorithm>
@@ -52,14 +53,16 @@ void AlignMiddle(const CWnd& dialog, const CRect& reference, CWnd& wnd) {
     MoveTo(wnd, CPoint(rect.left, reference.top + (reference.Height() - rect.Height()) / 2));
 }
 
-// How much wider than its label a text is, pixels; 0 and less: it fits.
+constexpr int kMostRoomPx = 400; // that a window grows for one label, at 96 DPI
+
+// How much wider than its label a text is, pixels, up to what a window grows by; 0 and less: it fits.
 int MissingWidth(const Item& label) {
     CClientDC dc(label.wnd);
     CFont* const old = dc.SelectObject(label.wnd->GetFont());
     CRect text;
-    dc.DrawText(TextOf(label.wnd), text, DT_CALCRECT | DT_SINGLELINE);
+    dc.DrawText(TextOf(label.wnd).Left(kMostRoomPx), text, DT_CALCRECT | DT_SINGLELINE);
     dc.SelectObject(old);
-    return text.Width() - label.rect.Width();
+    return std::min(text.Width() - label.rect.Width(), QV_ScalePx(label.wnd->m_hWnd, kMostRoomPx));
 }
 
 bool ShareColumn(const CRect& one, const CRect& other) {

@@ -8,6 +8,7 @@
 #include <QVSkin.h>
 
 #include <atomic>
+#include <mutex>
 
 namespace _qv_commonwnd {
 
@@ -19,9 +20,10 @@ constexpr int kDefaultRange = 100;
 constexpr int kLargestRange = 1000;
 constexpr int kBarStep = 1;
 
-int s_nDotCount = 0;                  // dots at the next tick; goes on from one window to the next
-TextMailbox s_text;                   // from a worker to the window
-std::atomic<DWORD> s_windowThread{0}; // the thread of the running window, 0: none
+int s_nDotCount = 0;      // dots at the next tick; goes on from one window to the next
+TextMailbox s_text;       // from a worker to the window
+DWORD s_windowThread = 0; // the thread of the running window, 0: none
+std::mutex s_textLock;    // of the way that a text takes; held no longer than a copy takes
 
 // The static members are plain data that other threads store to while the window runs.
 template <class T> T Load(T& value) {
@@ -32,9 +34,17 @@ template <class T> void Store(T& value, T now) {
     std::atomic_ref<T>(value).store(now, std::memory_order_relaxed);
 }
 
-void TakeText() {
+// A worker that reports before the window is up stores its text at once: the window must not read it meanwhile.
+CString TakeText() {
+    const std::lock_guard lock(s_textLock);
     if (const auto text = s_text.Take())
         CZ5ProgressDlg::strText = text->c_str();
+    return CZ5ProgressDlg::strText;
+}
+
+void SetWindowThread(DWORD thread) {
+    const std::lock_guard lock(s_textLock);
+    s_windowThread = thread;
 }
 
 } // namespace
@@ -63,9 +73,9 @@ void CZ5ProgressDlg::ProgressWndDoModle(wchar_t* title, int range, float step) {
     if (step > 0.0f)
         window.m_fStep = step;
     Store(m_bExist, 0);
-    s_windowThread = ::GetCurrentThreadId();
+    SetWindowThread(::GetCurrentThreadId());
     window.CDialog::DoModal();
-    s_windowThread = 0;
+    SetWindowThread(0);
     TakeText();
 }
 
@@ -77,8 +87,8 @@ void CZ5ProgressDlg::SetCurPos(int cur, int next) {
 void CZ5ProgressDlg::SetTextShow(wchar_t* text) {
     if (!text)
         return;
-    const DWORD window = s_windowThread;
-    if (window == 0 || window == ::GetCurrentThreadId())
+    const std::lock_guard lock(s_textLock);
+    if (s_windowThread == 0 || s_windowThread == ::GetCurrentThreadId())
         strText = text;
     else
         s_text.Put(text);
@@ -101,9 +111,8 @@ CZ5ProgressDlg::~CZ5ProgressDlg() = default;
 BOOL CZ5ProgressDlg::OnInitDialog() {
     CQVDialog::OnInitDialog();
     Store(m_bExist, 0);
-    TakeText();
     SetWindowText(m_strTitle);
-    m_stText.SetWindowText(strText);
+    m_stText.SetWindowText(ProgressMessage(TakeText(), 0));
     m_ctrlProgress.SetRange32(0, m_nRange);
     m_ctrlProgress.SetPos(0);
     m_ctrlProgress.SetStep(kBarStep);
@@ -145,8 +154,7 @@ void CZ5ProgressDlg::Tick() {
     m_fStep = state.step;
     m_nSlowLimit = state.slowLimit;
     ShowPosition();
-    TakeText();
-    m_stText.SetWindowText(ProgressMessage(strText, s_nDotCount));
+    m_stText.SetWindowText(ProgressMessage(TakeText(), s_nDotCount));
     s_nDotCount = NextDotCount(s_nDotCount);
 }
 
