@@ -6,6 +6,8 @@ using namespace values_test;
 
 namespace {
 
+constexpr long kStatics = 2; // of the template
+
 class IntegerDialog : public Values {
   protected:
     static HWND Edit(Driver& user, HWND dialog) { return Control(user, dialog, IDC_VALUE_EDIT); }
@@ -212,9 +214,12 @@ TEST_F(IntegerDialog, HugeTextsDoNoHarm) {
 
 TEST_F(IntegerDialog, ManyRunsLeaveNothingBehind) {
     int runs = 0;
-    qvtest::expectNoLeak(kLifeRuns, [&runs] {
-        CQVGetIntDlg dialog;
-        dialog.m_nType = ++runs % 2 ? QVGETINT_TIMECODE : QVGETINT_NUMBER;
-        EXPECT_EQ(IDOK, RunOnce(dialog, [&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }));
-    });
+    qvtest::expectNoLeak(kLifeRuns,
+                         [&runs] {
+                             CQVGetIntDlg dialog;
+                             dialog.m_nType = ++runs % 2 ? QVGETINT_TIMECODE : QVGETINT_NUMBER;
+                             EXPECT_EQ(IDOK,
+                                       RunOnce(dialog, [&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }));
+                         },
+                         {.heapBlocks = kStatics});
 }

@@ -9,6 +9,8 @@ using _qv_commonctrl::TimecodeFrameRate;
 
 namespace {
 
+constexpr long kStatics = 2; // of the template
+
 class PointDialog : public Values {
   protected:
     static HWND Timecode(Driver& user, HWND dialog) { return Control(user, dialog, IDC_VALUE_EDIT); }
@@ -124,17 +126,31 @@ TEST_F(PointDialog, PastedNonsenseIsRefused) {
     EXPECT_EQ(IDOK, Use(dialog, [&](Driver& user, HWND wnd) {
                   for (const HWND edit : {Timecode(user, wnd), Frames(user, wnd)}) {
                       Paste(user, edit, L"no frame 片段");
-                      Paste(user, edit, std::wstring(1 << 20, L'7'));
+                      Paste(user, edit, std::wstring(1 << 20, L'x'));
                       Paste(user, edit, L"1:2:3:4:5:6:7");
                   }
+                  Paste(user, Timecode(user, wnd), std::wstring(1 << 20, L'7'));
+                  EXPECT_EQ(L"321", textOf(Frames(user, wnd)));
                   user.click(wnd, IDOK);
               }));
     EXPECT_EQ(321, dialog.m_nFrame);
 }
 
+TEST_F(PointDialog, AMegabyteOfDigitsIsTheLargestFrame) {
+    CQVGetPointDlg dialog;
+    EXPECT_EQ(IDOK, Use(dialog, [&](Driver& user, HWND wnd) {
+                  Paste(user, Frames(user, wnd), std::wstring(1 << 20, L'7'));
+                  user.click(wnd, IDOK);
+              }));
+    EXPECT_EQ(LLONG_MAX, dialog.m_nFrame);
+}
+
 TEST_F(PointDialog, ManyRunsLeaveNothingBehind) {
-    qvtest::expectNoLeak(kLifeRuns, [] {
-        CQVGetPointDlg dialog;
-        EXPECT_EQ(IDOK, RunOnce(dialog, [&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }));
-    });
+    qvtest::expectNoLeak(kLifeRuns,
+                         [] {
+                             CQVGetPointDlg dialog;
+                             EXPECT_EQ(IDOK,
+                                       RunOnce(dialog, [&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }));
+                         },
+                         {.heapBlocks = kStatics});
 }

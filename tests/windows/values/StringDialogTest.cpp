@@ -4,6 +4,8 @@ using namespace values_test;
 
 namespace {
 
+constexpr long kStatics = 1; // of the template
+
 constexpr int kEdit = 111;
 constexpr wchar_t kForbidden[] = L"\\/:";
 
@@ -177,9 +179,12 @@ TEST_F(StringDialog, OneObjectRunsAgain) {
 }
 
 TEST_F(StringDialog, ManyRunsLeaveNothingBehind) {
-    qvtest::expectNoLeak(kLifeRuns, [] {
-        CQVGetStrDlg dialog;
-        dialog.m_strText = L"x";
-        EXPECT_EQ(IDOK, RunOnce(dialog, [&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }));
-    });
+    qvtest::expectNoLeak(kLifeRuns,
+                         [] {
+                             CQVGetStrDlg dialog;
+                             dialog.m_strText = L"x";
+                             EXPECT_EQ(IDOK,
+                                       RunOnce(dialog, [&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }));
+                         },
+                         {.heapBlocks = kStatics});
 }
