@@ -68,11 +68,11 @@ class FontScope {
 void CreateScaleFont(CFont& font, CDC& dc, int room, UINT dpi) {
     CreateUiFont(font, kScaleFontPx, dpi);
     LOGFONTW log = {};
-    int width = 0;
+    LONG width = 0;
     TEXTMETRICW metrics = {};
     {
         FontScope scope(dc, &font);
-        width = dc.GetTextExtent(kWidestMark).cx;
+        width = std::max(dc.GetTextExtent(kWidestMark).cx, dc.GetTextExtent(kSilenceText).cx);
         dc.GetTextMetrics(&metrics);
         font.GetLogFont(&log);
     }
