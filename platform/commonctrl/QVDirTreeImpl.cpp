@@ -101,11 +101,8 @@ HTREEITEM CQVDirTreeImpl::Insert(HTREEITEM parent, HTREEITEM after, FolderEntry&
 }
 
 void CQVDirTreeImpl::InsertAll(HTREEITEM parent, std::vector<FolderEntry>& entries) {
-    HTREEITEM after = TVI_FIRST;
-    for (FolderEntry& entry : entries) {
-        if (const HTREEITEM item = Insert(parent, after, entry))
-            after = item; // naming the neighbour spares the control the walk to the end
-    }
+    for (FolderEntry& entry : entries)
+        Insert(parent, TVI_LAST, entry); // the control knows its last child; a neighbour it would look for
 }
 
 void CQVDirTreeImpl::SetHasChildren(HTREEITEM item, bool has) {

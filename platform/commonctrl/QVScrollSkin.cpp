@@ -4,32 +4,48 @@
 
 #include <commctrl.h>
 
-#include <map>
+#include <unordered_map>
 #include <vector>
 
 namespace _qv_commonctrl {
 
 namespace {
 
-constexpr UINT_PTR kSubclassId = 0x51565342; // "QVSB"
-constexpr UINT_PTR kHotTimer = 0x51565342;
-constexpr UINT kHotTimerMs = 100; // the native bar does not always say when the mouse leaves it
+constexpr UINT_PTR kHotTimer = 0x51565342; // "QVSB"
+constexpr UINT kHotTimerMs = 100;          // the native bar does not always say when the mouse leaves it
 
 UINT SynchroniseMessage() {
     static const UINT message = RegisterWindowMessageW(L"QVCommonCtrlU.SynchroniseScrollBars");
     return message;
 }
 
-// The subclass procedure answers it with its object.
+// Our procedure answers it with its object, or with this when it only passes messages on.
+constexpr LRESULT kPassesOn = -1;
+
 UINT WhoMessage() {
     static const UINT message = RegisterWindowMessageW(L"QVCommonCtrlU.ScrollSkin");
     return message;
 }
 
-// Windows by handle; only the thread of a window touches its entry.
-std::map<HWND, ScrollSkin*>& Registry() {
-    static std::map<HWND, ScrollSkin*> registry;
+// What stands behind our procedure of a window. The common controls' own way of subclassing asks for a window property
+// with each message, which may take longer than the message: a list of 100,000 rows is filled by as many messages.
+struct Entry {
+    ScrollSkin* skin; // null: given back while a procedure of somebody else lay above ours
+    WNDPROC below;
+};
+
+// By handle; only the thread of a window touches its entry.
+std::unordered_map<HWND, Entry>& Registry() {
+    static std::unordered_map<HWND, Entry> registry;
     return registry;
+}
+
+WNDPROC ProcedureOf(HWND wnd) {
+    return reinterpret_cast<WNDPROC>(GetWindowLongPtrW(wnd, GWLP_WNDPROC));
+}
+
+void SetProcedure(HWND wnd, WNDPROC procedure) {
+    SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
 enum class Effect { None, Now, Soon };
@@ -77,28 +93,60 @@ ScrollSkin::Bar::Bar(HWND target, OverlayKind kind)
 
 ScrollSkin* ScrollSkin::Find(HWND wnd) {
     const auto found = Registry().find(wnd);
-    if (found == Registry().end())
+    if (found == Registry().end() || !found->second.skin)
         return nullptr;
-    ScrollSkin* const skin = found->second;
+    ScrollSkin* const skin = found->second.skin;
     if (IsWindow(wnd) && SendMessageW(wnd, WhoMessage(), 0, 0) == reinterpret_cast<LRESULT>(skin))
         return skin;
     // Somebody has put another procedure in place of the whole chain, so the end of the window went unseen.
-    if (IsAttached(wnd, skin))
+    if (IsAttached(wnd, skin)) {
         delete skin;
+        Registry().erase(wnd);
+    }
     return nullptr;
 }
 
 bool ScrollSkin::IsAttached(HWND wnd, const ScrollSkin* skin) {
     const auto found = Registry().find(wnd);
-    return found != Registry().end() && found->second == skin;
+    return found != Registry().end() && found->second.skin == skin;
+}
+
+// Puts our procedure above the window's, unless it is still among those that the window has.
+bool ScrollSkin::HookProcedure(HWND wnd) {
+    const auto found = Registry().find(wnd);
+    if (found != Registry().end()) {
+        if (SendMessageW(wnd, WhoMessage(), 0, 0) == kPassesOn)
+            return true;
+        Registry().erase(found);
+    }
+    const WNDPROC below = ProcedureOf(wnd);
+    if (!below)
+        return false;
+    Registry()[wnd] = {nullptr, below};
+    SetProcedure(wnd, &ScrollSkin::WindowProc);
+    return true;
+}
+
+// While a procedure of somebody else lies above ours, ours has to stay.
+void ScrollSkin::UnhookProcedure(HWND wnd) {
+    const auto found = Registry().find(wnd);
+    if (found == Registry().end())
+        return;
+    if (ProcedureOf(wnd) == &ScrollSkin::WindowProc) {
+        SetProcedure(wnd, found->second.below);
+        Registry().erase(found);
+    } else {
+        found->second.skin = nullptr;
+    }
 }
 
 ScrollSkin* ScrollSkin::Attach(HWND wnd) {
-    auto* skin = new ScrollSkin(wnd);
-    if (!SetWindowSubclass(wnd, &ScrollSkin::SubclassProc, kSubclassId, reinterpret_cast<DWORD_PTR>(skin))) {
-        delete skin;
+    if (!HookProcedure(wnd))
         return nullptr;
-    }
+    auto* skin = new ScrollSkin(wnd);
+    const auto found = Registry().find(wnd);
+    found->second.skin = skin;
+    skin->m_below = found->second.below;
     const LONG_PTR style = GetWindowLongPtrW(wnd, GWL_STYLE);
     skin->m_addedClipSiblings = !(style & WS_CLIPSIBLINGS);
     if (skin->m_addedClipSiblings) // or the native bars would paint over their overlays
@@ -109,8 +157,8 @@ ScrollSkin* ScrollSkin::Attach(HWND wnd) {
 
 void ScrollSkin::RefreshAll() {
     std::vector<HWND> windows;
-    for (const auto& [wnd, skin] : Registry())
-        windows.push_back(wnd);
+    for (const auto& entry : Registry())
+        windows.push_back(entry.first);
     for (const HWND wnd : windows) {
         if (GetWindowThreadProcessId(wnd, nullptr) != GetCurrentThreadId())
             continue;
@@ -122,15 +170,10 @@ void ScrollSkin::RefreshAll() {
 ScrollSkin::ScrollSkin(HWND wnd)
     : m_wnd(wnd), m_vertical(wnd, OverlayKind::Vertical), m_horizontal(wnd, OverlayKind::Horizontal),
       m_corner(wnd, OverlayKind::Corner) {
-    Registry()[wnd] = this;
-}
-
-ScrollSkin::~ScrollSkin() {
-    Registry().erase(m_wnd);
 }
 
 void ScrollSkin::Detach() {
-    RemoveWindowSubclass(m_wnd, &ScrollSkin::SubclassProc, kSubclassId);
+    UnhookProcedure(m_wnd);
     KillTimer(m_wnd, kHotTimer);
     if (m_addedClipSiblings)
         SetWindowLongPtrW(m_wnd, GWL_STYLE,
@@ -155,15 +198,21 @@ void ScrollSkin::Describe(QVReplaceData& data) {
         data.rcHorz.OffsetRect(-window.left, -window.top);
 }
 
-LRESULT CALLBACK ScrollSkin::SubclassProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                          DWORD_PTR data) {
-    auto* const self = reinterpret_cast<ScrollSkin*>(data);
+LRESULT CALLBACK ScrollSkin::WindowProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto found = Registry().find(wnd);
+    if (found == Registry().end())
+        return DefWindowProcW(wnd, message, wParam, lParam);
+    const Entry entry = found->second;
     if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(wnd, &ScrollSkin::SubclassProc, kSubclassId);
-        delete self;
-        return DefSubclassProc(wnd, message, wParam, lParam);
+        UnhookProcedure(wnd);
+        Registry().erase(wnd);
+        delete entry.skin;
+    } else if (entry.skin) {
+        return entry.skin->OnMessage(message, wParam, lParam);
+    } else if (message == WhoMessage()) {
+        return kPassesOn;
     }
-    return self->OnMessage(message, wParam, lParam);
+    return CallWindowProcW(entry.below, wnd, message, wParam, lParam);
 }
 
 LRESULT ScrollSkin::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -185,7 +234,7 @@ LRESULT ScrollSkin::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return OnNcButtonDown(m_horizontal, message, wParam, lParam);
     if (message == WM_NCMOUSEMOVE)
         OnNcMouseMove(wParam, lParam);
-    const LRESULT result = DefSubclassProc(wnd, message, wParam, lParam);
+    const LRESULT result = CallWindowProcW(m_below, wnd, message, wParam, lParam);
     const Effect effect = EffectOf(message);
     if (effect == Effect::None || !IsAttached(wnd, this)) // the message may have ended the window
         return result;
@@ -202,7 +251,7 @@ LRESULT ScrollSkin::OnNcButtonDown(Bar& bar, UINT message, WPARAM wParam, LPARAM
     const HWND wnd = m_wnd;
     bar.pressed = PartAt(bar, CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))));
     Synchronise();
-    const LRESULT result = DefSubclassProc(wnd, message, wParam, lParam);
+    const LRESULT result = CallWindowProcW(m_below, wnd, message, wParam, lParam);
     if (IsAttached(wnd, this)) {
         bar.pressed = ScrollPart::None;
         Synchronise();

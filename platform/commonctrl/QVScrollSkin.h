@@ -8,7 +8,7 @@ namespace _qv_commonctrl {
 
 // The native bars stay where they are and do all the work: tracking, auto-repeat, the menu, 32-bit positions.
 // They are covered by overlays that show their state with the skin and let the mouse through. The object
-// hangs on the window by a subclass procedure and dies with it.
+// hangs on the window by a procedure above the window's own and dies with it.
 class ScrollSkin {
   public:
     // Null when the window cannot be subclassed (another thread's).
@@ -37,11 +37,11 @@ class ScrollSkin {
     };
 
     explicit ScrollSkin(HWND wnd);
-    ~ScrollSkin();
 
+    static bool HookProcedure(HWND wnd);
+    static void UnhookProcedure(HWND wnd);
     static bool IsAttached(HWND wnd, const ScrollSkin* skin); // FALSE once the object is gone
-    static LRESULT CALLBACK SubclassProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                         DWORD_PTR self);
+    static LRESULT CALLBACK WindowProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnNcButtonDown(Bar& bar, UINT message, WPARAM wParam, LPARAM lParam);
     void OnNcMouseMove(WPARAM hitCode, LPARAM screenPoint);
@@ -56,6 +56,7 @@ class ScrollSkin {
     void Refresh();
 
     HWND m_wnd;
+    WNDPROC m_below = nullptr; // what handles the messages that are not ours
     Bar m_vertical;
     Bar m_horizontal;
     ScrollOverlay m_corner;

@@ -246,30 +246,16 @@ void RunBare() {
     ::OleUninitialize();
 }
 
-long HeapGrowth(int runs, const std::function<void()>& action) {
-    for (int i = 0; i < qvtest::kWarmUpRuns; ++i)
-        action();
-    const qvtest::LeakGuard guard;
-    const long before = qvtest::Census::take().count("heap block");
-    for (int i = 0; i < runs; ++i)
-        action();
-    guard.expectNothingLeft();
-    return qvtest::Census::take().count("heap block") - before;
-}
-
-// The system's dialog may keep some memory of each run; ours may keep no more.
 TEST_F(PathDialog, TwoHundredRunsLeaveNothing) {
     constexpr int kRuns = 200;
-    constexpr int kBareRuns = 50;
     m_folder.folder(L"media");
-    const long bare = HeapGrowth(kBareRuns, RunBare);
-    const long ours = HeapGrowth(kRuns, [&] {
+    const auto run = [&] {
         CQVPathDialog dialog(nullptr);
         dialog.m_strPath = m_folder.path(L"media").c_str();
         const SelfCancel cancel;
         EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    });
-    EXPECT_LT(ours, bare * kRuns / kBareRuns + kRuns / 2);
+    };
+    qvtest::expectNoLeak(kRuns, run, {.bare = RunBare});
 }
 
 } // namespace pathdialog_test
