@@ -29,6 +29,7 @@ std::vector<int> DepthsOf(const std::vector<int>& textLefts) {
     std::sort(steps.begin(), steps.end());
     steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
     std::vector<int> depths;
+    depths.reserve(textLefts.size());
     for (const int left : textLefts)
         depths.push_back(
             static_cast<int>(std::lower_bound(steps.begin(), steps.end(), left) - steps.begin()));
@@ -103,8 +104,10 @@ void CLookInFolders::Know() {
         return;
     m_known = true;
     m_rows.clear();
+    const int count = RowCount();
     std::vector<int> lefts;
-    for (int row = 0; row < RowCount(); ++row)
+    lefts.reserve(static_cast<std::size_t>(count));
+    for (int row = 0; row < count; ++row)
         lefts.push_back(TextLeft(row));
     const OwnedItemId inView = FolderInView();
     for (const int depth : DepthsOf(lefts)) {

@@ -28,7 +28,7 @@ IMPLEMENT_DYNAMIC(CQVFileDialog, CFileDialog)
 
 BEGIN_MESSAGE_MAP(CQVFileDialog, CFileDialog)
     ON_WM_GETMINMAXINFO()
-    ON_MESSAGE(WM_QV_IMPORTFORDER, OnMsgImportForder)
+    ON_MESSAGE(WM_QV_IMPORTFORDER, &CQVFileDialog::OnMsgImportForder)
 END_MESSAGE_MAP()
 
 // The base is always built in the hook style: the whole dialog stands on the hook's child window.

@@ -38,10 +38,10 @@ BOOL CQVFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
         OnSelectionChange();
         break;
     case static_cast<int>(CDN_FOLDERCHANGE):
-        OnFolderChanged();
+        TakeNewFolder();
         break;
     case static_cast<int>(CDN_TYPECHANGE):
-        OnTypeChanged();
+        TellTypeChange();
         break;
     default:
         break;
@@ -66,7 +66,7 @@ void CQVFileDialog::OnDialogInitDone() {
     m_pWndEx->SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void CQVFileDialog::OnTypeChanged() {
+void CQVFileDialog::TellTypeChange() {
     ForgetSelection();
     if (const HWND view = ShellViewOf(Frame()))
         ::InvalidateRect(view, nullptr, TRUE);
@@ -150,7 +150,7 @@ void CQVFileDialog::OnSeveralSelected(HWND list, int count) {
     TellAdvanceWnd(FILESEL_SEVERAL, reinterpret_cast<LPARAM>(&count));
 }
 
-void CQVFileDialog::OnFolderChanged() {
+void CQVFileDialog::TakeNewFolder() {
     m_btnOK.Invalidate();
     ForgetSelection();
     if (!SkinsShellList(SystemMajorVersion()))
@@ -173,6 +173,7 @@ void CQVFileDialog::SkinShellView(HWND view, HWND list) {
     CWnd::ModifyStyle(list, 0, WS_CLIPSIBLINGS, 0);
     CWnd::ModifyStyle(view, 0, WS_CLIPSIBLINGS, 0);
     DropEdge(list);
+    m_pListView->SetListProcedure(reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(list, GWLP_WNDPROC)));
     QV_ReplaceWnd(list);
     m_pListView->SetHeaderObject(&m_header);
     m_pListView->SetSelectionAction([this] { OnListSelection(); });

@@ -24,11 +24,13 @@ BEGIN_MESSAGE_MAP(CQVListView, CWnd)
     ON_WM_PAINT()
     ON_WM_CTLCOLOR()
     ON_WM_VSCROLL()
-    ON_MESSAGE(WM_QV_LISTSKIN, OnListSkin)
-    ON_REGISTERED_MESSAGE(g_nSelectionSettled, OnSelectionSettled)
+    ON_MESSAGE(WM_QV_LISTSKIN, &CQVListView::OnListSkin)
+    ON_REGISTERED_MESSAGE(g_nSelectionSettled, &CQVListView::OnSelectionSettled)
 END_MESSAGE_MAP()
 
 namespace {
+
+constexpr UINT kListMessages = 0x100;
 
 // Messages at which the list moves its pixels on the screen, the border among them.
 bool MovesPixels(UINT message) {
@@ -43,6 +45,28 @@ bool MovesPixels(UINT message) {
         return true;
     default:
         return false;
+    }
+}
+
+// Messages about items and looks: they come by the million while a shell's view collects what is selected, and each
+// layer before the list costs more than the list's answer. What they change is painted, which nobody misses.
+bool IsAboutItems(UINT message) {
+    switch (message) {
+    case LVM_SETVIEW:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+    case LVM_DELETECOLUMN:
+    case LVM_SETCOLUMNWIDTH:
+    case LVM_SCROLL:
+    case LVM_ENSUREVISIBLE:
+    case LVM_ARRANGE:
+    case LVM_SETBKIMAGEA:
+    case LVM_SETBKIMAGEW:
+    case LVM_EDITLABELA:
+    case LVM_EDITLABELW:
+        return false;
+    default:
+        return message >= LVM_FIRST && message < LVM_FIRST + kListMessages;
     }
 }
 
@@ -88,6 +112,8 @@ void CQVListView::TakeHeader() {
 }
 
 LRESULT CQVListView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (m_pfnList && IsAboutItems(message))
+        return ::CallWindowProcW(m_pfnList, m_hWnd, message, wParam, lParam);
     const bool moving = MovesPixels(message);
     const CPoint before = moving ? Origin(m_hWnd) : CPoint();
     const LRESULT result = CWnd::WindowProc(message, wParam, lParam);

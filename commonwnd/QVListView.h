@@ -18,6 +18,10 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     // The object that wears the list's header as soon as there is one; borrowed.
     void SetHeaderObject(_qv_commonctrl::CQVHeaderCtrl* header) { m_pHeader = header; }
 
+    // The list's own procedure, below everything that was put before it: messages that neither move nor resize
+    // anything go straight there. Null: none do.
+    void SetListProcedure(WNDPROC procedure) { m_pfnList = procedure; }
+
     // Called once after items have been selected or unselected, however many.
     void SetSelectionAction(std::function<void()> action) { m_selectionAction = std::move(action); }
 
@@ -43,6 +47,7 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     void NoteItemChange(const NMLISTVIEW& change);
 
     _qv_commonctrl::CQVHeaderCtrl* m_pHeader = nullptr;
+    WNDPROC m_pfnList = nullptr;
     std::function<void()> m_selectionAction;
     bool m_bSelectionAsked = false; // a look at the selection is due
 };

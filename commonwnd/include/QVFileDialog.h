@@ -195,8 +195,8 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void OnDialogInitDone();
     void OnSelectionChange();
     void OnListSelection();
-    void OnFolderChanged();
-    void OnTypeChanged();
+    void TakeNewFolder();
+    void TellTypeChange();
     void OnNothingSelected();
     void OnOneSelected(HWND list);
     void OnSeveralSelected(HWND list, int count);

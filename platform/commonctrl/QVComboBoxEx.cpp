@@ -105,6 +105,8 @@ void CQVComboBoxEx::PreSubclassWindow() {
 
 void CQVComboBoxEx::OnSkinChange(UINT reason, HWND wnd) {
     CQVBaseCtrl::OnSkinChange(reason, wnd);
+    if (m_hWnd) // the field inside has no object of its own
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 LRESULT CQVComboBoxEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

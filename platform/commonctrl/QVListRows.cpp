@@ -37,6 +37,8 @@ class ItemPainter {
     int m_item;
     UINT m_state = 0;
     int m_image = -1;
+    CString m_text; // of the first column
+    CRect m_label;
     DWORD m_style;
     DWORD m_exStyle;
     UINT m_dpi;
@@ -49,14 +51,20 @@ ItemPainter::ItemPainter(HWND list, CDC* dc, int item)
     : m_list(list), m_dc(dc), m_item(item), m_style(static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE))),
       m_exStyle(static_cast<DWORD>(SendMessageW(list, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0))),
       m_dpi(QV_GetWindowDpi(list)), m_font(WindowFontOf(list)) {
+    // One question for all: a list may ask its owner in turn for each answer.
+    wchar_t text[kMaxTextUnits] = L"";
     LVITEMW record = {};
-    record.mask = LVIF_STATE | LVIF_IMAGE;
+    record.mask = LVIF_STATE | LVIF_IMAGE | LVIF_TEXT;
     record.iItem = item;
     record.stateMask = ~0u;
+    record.pszText = text;
+    record.cchTextMax = kMaxTextUnits;
     if (SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&record))) {
         m_state = record.state;
         m_image = record.iImage;
+        m_text = record.pszText; // an owner-data list may answer with a buffer of its own
     }
+    m_label = RectOf(LVIR_LABEL);
     const bool selected = m_state & (LVIS_SELECTED | LVIS_DROPHILITED);
     m_selection = SelectionOf(list, selected, m_style & LVS_SHOWSELALWAYS);
     m_colors = ColorsOfRow(list, m_selection, QVCLR_LIST, QVCLR_TEXT_LIST);
@@ -140,7 +148,7 @@ void ItemPainter::PaintReportTexts() {
     const int columns = header ? static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 1;
     const COLORREF plain = ColorsOfRow(m_list, RowSelection::None, QVCLR_LIST, QVCLR_TEXT_LIST).text;
     for (int column = 0; column < columns; ++column) {
-        CRect cell = RectOf(LVIR_LABEL);
+        CRect cell = m_label;
         if (column > 0) {
             cell.top = column;
             cell.left = LVIR_BOUNDS;
@@ -157,24 +165,24 @@ void ItemPainter::PaintReportTexts() {
         const int justify = column == 0 ? LVCFMT_LEFT : record.fmt & LVCFMT_JUSTIFYMASK;
         const UINT side = justify == LVCFMT_RIGHT ? DT_RIGHT : justify == LVCFMT_CENTER ? DT_CENTER : DT_LEFT;
         cell.DeflateRect(QV_ScaleForDpi(column == 0 ? kLabelMarginPx : kCellMarginPx, m_dpi), 0);
-        DrawTextIn(m_dc, TextOf(column), cell, side | kLineFormat, m_font,
+        DrawTextIn(m_dc, column == 0 ? m_text : TextOf(column), cell, side | kLineFormat, m_font,
                    column == 0 || FullRow() ? m_colors.text : plain);
     }
 }
 
 void ItemPainter::PaintLabel() {
-    CRect label = RectOf(LVIR_LABEL);
+    CRect label = m_label;
     label.DeflateRect(QV_ScaleForDpi(kLabelMarginPx, m_dpi), 0);
     const bool wrapped = View() == LV_VIEW_ICON && !(m_style & LVS_NOLABELWRAP);
     const UINT format = View() == LV_VIEW_ICON ? DT_CENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
                                                      (wrapped ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE)
                                                : DT_LEFT | kLineFormat;
-    DrawTextIn(m_dc, TextOf(0), label, format, m_font, m_colors.text);
+    DrawTextIn(m_dc, m_text, label, format, m_font, m_colors.text);
 }
 
 void ItemPainter::Paint() {
     const bool report = View() == LV_VIEW_DETAILS;
-    CRect ground = FullRow() ? RectOf(LVIR_BOUNDS) : RectOf(LVIR_LABEL);
+    CRect ground = FullRow() ? RectOf(LVIR_BOUNDS) : m_label;
     if (FullRow())
         ground.left = RectOf(LVIR_ICON).left;
     PaintGround(ground);
@@ -193,6 +201,9 @@ LRESULT PaintListItem(NMLVCUSTOMDRAW& draw) {
     case CDDS_PREPAINT:
         return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
+        // The control may offer every item of a column or page; most are outside of what is to be painted.
+        if (const CRect place(draw.nmcd.rc); !place.IsRectEmpty() && !::RectVisible(draw.nmcd.hdc, place))
+            return CDRF_SKIPDEFAULT;
         ItemPainter(draw.nmcd.hdr.hwndFrom, CDC::FromHandle(draw.nmcd.hdc),
                     static_cast<int>(draw.nmcd.dwItemSpec))
             .Paint();
