@@ -199,6 +199,8 @@ void Driver::press(WORD key, unsigned modifiers) {
 
 void Driver::replaceText(HWND edit, const std::wstring& text) {
     click(edit);
+    if (focus() != edit) // soon after a click in the same place this was a double click, which takes no focus
+        click(edit);
     press(VK_HOME, Control);
     press(VK_END, Control | Shift);
     if (text.empty())

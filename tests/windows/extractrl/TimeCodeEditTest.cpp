@@ -206,20 +206,21 @@ TEST_F(TimeCodeEdit, UndoAndClipboard) {
         EXPECT_EQ(user.text(label), L"00:00:02:00");
         user.press('A', Control);
         user.press('C', Control);
-        leave(user);
+        user.replaceText(findControl(wnd, IDC_PLAIN), L"");
         user.press('V', Control);
         EXPECT_EQ(user.text(wnd, IDC_PLAIN), L"00:00:02:00");
         user.replaceText(findControl(wnd, IDC_PLAIN), L"-00:00:01:01");
-        user.press('A', Control);
-        user.onUi([&] {
+        const auto copyPlain = [&] {
             ::SendMessageW(findControl(wnd, IDC_PLAIN), EM_SETSEL, 0, -1);
             ::SendMessageW(findControl(wnd, IDC_PLAIN), WM_COPY, 0, 0);
-        });
+        };
+        user.onUi(copyPlain);
         user.click(label);
         user.press('V', Control);
         EXPECT_EQ(user.text(label), L"-00:00:01:01"); // a copied label keeps its sign
         user.press('X', Control);
         EXPECT_EQ(user.text(label), L"-00:00:01:01");
+        user.onUi(copyPlain); // cutting has copied what was selected
         user.click(frames);
         user.press('V', Control);
         EXPECT_EQ(user.text(frames), L"50"); // a label is no count
