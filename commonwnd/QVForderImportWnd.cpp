@@ -25,8 +25,9 @@ BEGIN_MESSAGE_MAP(CQVForderImportWnd, CWnd)
     ON_WM_SIZE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
     ON_WM_DESTROY()
-    ON_BN_CLICKED(kImportButtonId, OnBnClickedImport)
+    ON_BN_CLICKED(kImportButtonId, &CQVForderImportWnd::OnBnClickedImport)
 END_MESSAGE_MAP()
 
 CQVForderImportWnd::CQVForderImportWnd() : m_pOwnerDlg(nullptr), m_szButton(kButtonWidthPx, kButtonHeightPx) {
@@ -76,6 +77,13 @@ void CQVForderImportWnd::OnPaint() {
 
 BOOL CQVForderImportWnd::OnEraseBkgnd(CDC*) {
     return TRUE;
+}
+
+// What shows round the corners of the controls.
+HBRUSH CQVForderImportWnd::OnCtlColor(CDC* pDC, CWnd*, UINT) {
+    if (pDC)
+        pDC->SetBkMode(TRANSPARENT);
+    return QV_GetSysBrush(QVBRUSH_WINDOW);
 }
 
 void CQVForderImportWnd::OnDestroy() {

@@ -54,8 +54,9 @@ BEGIN_MESSAGE_MAP(CQVPsdOptionWnd, CWnd)
     ON_WM_SIZE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
     ON_WM_DESTROY()
-    ON_MESSAGE(WM_QV_CHECKCOMBO_CLOSEUP, OnCloseUpMsg)
+    ON_MESSAGE(WM_QV_CHECKCOMBO_CLOSEUP, &CQVPsdOptionWnd::OnCloseUpMsg)
 END_MESSAGE_MAP()
 
 CQVPsdOptionWnd::CQVPsdOptionWnd()
@@ -144,6 +145,13 @@ void CQVPsdOptionWnd::EnableControls() {
 
 BOOL CQVPsdOptionWnd::OnEraseBkgnd(CDC*) {
     return TRUE;
+}
+
+// What shows round the corners of the controls.
+HBRUSH CQVPsdOptionWnd::OnCtlColor(CDC* pDC, CWnd*, UINT) {
+    if (pDC)
+        pDC->SetBkMode(TRANSPARENT);
+    return QV_GetSysBrush(QVBRUSH_WINDOW);
 }
 
 void CQVPsdOptionWnd::OnPaint() {

@@ -32,6 +32,7 @@ class QVCOMMONWND_API CQVForderImportWnd : public CWnd, public _qv_commonctrl::C
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDestroy();
     afx_msg void OnBnClickedImport();
     DECLARE_MESSAGE_MAP()

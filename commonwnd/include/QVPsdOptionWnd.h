@@ -51,6 +51,7 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVB
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDestroy();
     afx_msg LRESULT OnCloseUpMsg(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

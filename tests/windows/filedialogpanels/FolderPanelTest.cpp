@@ -130,7 +130,7 @@ TEST_F(FolderPanel, PaintsItsGroundInEachSkin) {
     for (const wchar_t* skin : {L"dark", L"light", L"dark"}) {
         QV_SetSkinPath(SkinFolder(skin));
         const Picture shot = Shot(panel);
-        for (const POINT at : {POINT{95, 5}, POINT{5, 30}, POINT{135, 45}})
+        for (const POINT at : {POINT{95, 5}, POINT{5, 30}, POINT{135, 45}, POINT{0, 0}, POINT{89, 22}})
             EXPECT_EQ(QV_GetSysColor(QVCLR_WINDOW), shot.at(at.x, at.y)) << at.x << ", " << at.y;
     }
 }

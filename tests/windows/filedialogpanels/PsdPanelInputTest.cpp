@@ -108,6 +108,9 @@ TEST_F(PanelInput, PaintsItsGroundInEachSkin) {
         // The labels' own ground, beside their text.
         EXPECT_EQ(ground, shot.at(99, 1));
         EXPECT_EQ(ground, shot.at(99, 31));
+        // Round the corners of the combo boxes.
+        EXPECT_EQ(ground, shot.at(192, 0));
+        EXPECT_EQ(ground, shot.at(438, 49));
     }
 }
 

@@ -1,0 +1,73 @@
+#include "RunningDialog.h"
+
+namespace panels_test {
+
+TestDialog::TestDialog(const TempFolder& folder, DWORD option, const wchar_t* filter)
+    : CQVFileDialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST, filter, nullptr, 0, FALSE, FALSE, option) {
+    m_ofn.lpstrInitialDir = folder.path().c_str();
+}
+
+HWND TestDialog::List() const {
+    const HWND view = qvtest::findDescendant(Frame(), L"SHELLDLL_DefView");
+    return view ? ::GetDlgItem(view, 1) : nullptr;
+}
+
+int TestDialog::Height() const {
+    CRect rect;
+    ::GetWindowRect(Frame(), rect);
+    return rect.Height();
+}
+
+bool TestDialog::ImportEnabled() const {
+    return ::IsWindowEnabled(::GetDlgItem(m_wndForderImport.m_hWnd, kImportButton)) != FALSE;
+}
+
+void RunningDialog::SetUp() {
+    Panels::SetUp();
+    m_formerFolder.resize(MAX_PATH);
+    m_formerFolder.resize(::GetCurrentDirectoryW(MAX_PATH, m_formerFolder.data()));
+}
+
+// The system's dialog leaves the shown folder current; a folder that is current cannot be deleted.
+void RunningDialog::TearDown() {
+    ::SetCurrentDirectoryW(m_formerFolder.c_str());
+    Panels::TearDown();
+}
+
+INT_PTR RunningDialog::Run(TestDialog& dialog, const std::function<void(Driver&)>& act) {
+    ModalScript script(qvtest::Milliseconds(60000));
+    script.step("act on the dialog", [&](Driver& user) {
+        user.waitFor("the list of files", [&] {
+            return dialog.m_hWnd && ::IsWindowVisible(dialog.Frame()) && dialog.List() &&
+                   user.send(dialog.List(), LVM_GETITEMCOUNT) > 0;
+        });
+        user.settle();
+        act(user);
+    });
+    return script.run([&] { return dialog.DoModal(); });
+}
+
+void RunningDialog::Select(Driver& user, TestDialog& dialog, const wchar_t* name) {
+    LVITEMW state = {};
+    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    LRESULT item = -1;
+    user.onUi([&] {
+        ::SendMessageW(dialog.List(), LVM_SETITEMSTATE, static_cast<WPARAM>(-1),
+                       reinterpret_cast<LPARAM>(&state));
+        if (!name)
+            return;
+        LVFINDINFOW find = {};
+        find.flags = LVFI_STRING;
+        find.psz = name;
+        item = ::SendMessageW(dialog.List(), LVM_FINDITEMW, static_cast<WPARAM>(-1),
+                              reinterpret_cast<LPARAM>(&find));
+        state.state = state.stateMask;
+        ::SendMessageW(dialog.List(), LVM_SETITEMSTATE, static_cast<WPARAM>(item),
+                       reinterpret_cast<LPARAM>(&state));
+    });
+    if (name && item < 0)
+        user.fail("the list does not show " + qvtest::toUtf8(name));
+    user.settle();
+}
+
+} // namespace panels_test
