@@ -26,6 +26,16 @@ run_program() {
     "$here/run-pe.sh" "$program" --benchmark_out_format=json --benchmark_counters_tabular=true \
         "--benchmark_out=$(windows_path "$BENCH_RESULTS/$name.json")" | tee "$BENCH_RESULTS/$name.log" ||
         warn "$name ended with an error"
+    run_peers "$name"
+}
+
+# Peers that are no Windows programs are timed by a script of their own, on what the program has written.
+# $1: name of the program
+run_peers() {
+    local peers=$QV_ROOT/tests/bench/$1/peers.sh
+    [[ -x $peers ]] || return 0
+    "$peers" "$QV_BUILD/bench-peers" "$QV_BUILD/mingw/bench/$1-documents" "$BENCH_RESULTS/$1-peers.json" ||
+        warn "the peers of $1 could not be timed: their rows have no ratio"
 }
 
 main() {
