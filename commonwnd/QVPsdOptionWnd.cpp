@@ -67,7 +67,8 @@ CQVPsdOptionWnd::CQVPsdOptionWnd()
 CQVPsdOptionWnd::~CQVPsdOptionWnd() = default;
 
 DWORD CQVPsdOptionWnd::GetMinHeight() {
-    return static_cast<DWORD>(m_nRowGap + m_nRowHeight + m_nRowGap + m_nRowHeight);
+    const int heightPx = m_nRowGap + m_nRowHeight + m_nRowGap + m_nRowHeight;
+    return static_cast<DWORD>(heightPx);
 }
 
 int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -170,7 +171,8 @@ void CQVPsdOptionWnd::OnDestroy() {
     CWnd::OnDestroy();
 }
 
-void CQVPsdOptionWnd::ReadPsdFile(CString strPath) {
+// By value: the exported signature is kept.
+void CQVPsdOptionWnd::ReadPsdFile(CString strPath) { // NOLINT(performance-unnecessary-value-param)
     m_arrLayerName.RemoveAll();
     if (!_qv_commonclass::CQVVideoPlay::GetPsdLayerInfo(strPath, m_arrLayerName) || !m_cmbLayer.GetSafeHwnd())
         return;
