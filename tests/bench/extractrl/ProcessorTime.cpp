@@ -79,12 +79,23 @@ std::wstring FindServer(const std::string& prefix) {
     return server;
 }
 
-// The X server of this program's own display; its lock file holds its process id.
-std::wstring FindDisplay(const std::string& display) {
-    const size_t colon = display.find(':');
-    if (colon == std::string::npos)
+// A variable of this program's own environment. (/proc/self is the window server, which opens the files.)
+std::wstring OwnVariable(const wchar_t* name) {
+    wchar_t value[64] = L"";
+    const DWORD length = ::GetEnvironmentVariableW(name, value, ARRAYSIZE(value));
+    return length < ARRAYSIZE(value) ? std::wstring(value, length) : std::wstring();
+}
+
+// The X server of this program's own display: who started it says so, or its lock file holds its process id.
+std::wstring FindDisplay() {
+    const std::wstring told = OwnVariable(L"QV_DISPLAY_PROCESS");
+    if (!told.empty())
+        return told;
+    const std::wstring display = OwnVariable(L"DISPLAY");
+    const size_t colon = display.find(L':');
+    if (colon == std::wstring::npos)
         return {};
-    const int number = std::atoi(display.c_str() + colon + 1);
+    const int number = _wtoi(display.c_str() + colon + 1);
     const int process = std::atoi(ReadFile(L"Z:\\tmp\\.X" + std::to_wstring(number) + L"-lock").c_str());
     return process > 0 ? std::to_wstring(process) : std::wstring();
 }
@@ -94,7 +105,7 @@ std::wstring FindDisplay(const std::string& display) {
 ProcessorTime::ProcessorTime() {
     const std::string environment = ReadFile(std::wstring(kProcFolder) + L"self\\environ");
     const std::wstring server = FindServer(Variable(environment, "WINEPREFIX"));
-    const std::wstring display = FindDisplay(Variable(environment, "DISPLAY"));
+    const std::wstring display = FindDisplay();
     if (!server.empty()) {
         m_statFiles.push_back(StatFile(server));
         m_names += ", window server";
