@@ -44,6 +44,8 @@ CQVPathDialog::CQVPathDialog(const CQVPathDialog& other)
 }
 
 CQVPathDialog& CQVPathDialog::operator=(const CQVPathDialog& other) {
+    if (this == &other)
+        return *this;
     if (other.m_pBrowseWnd) // first: both may share one already
         other.m_pBrowseWnd->Share();
     if (m_pBrowseWnd)
