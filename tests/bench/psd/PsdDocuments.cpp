@@ -48,6 +48,18 @@ Layer realisticLayer(int index) {
     return made;
 }
 
+// One image resource of an id that no program gives a meaning to.
+Bytes imageResource(std::uint32_t dataBytes) {
+    constexpr int unassignedId = 4900;
+    PsdImage resource;
+    resource.text("8BIM");
+    resource.number(unassignedId, 2);
+    resource.number(0, 2); // no name
+    resource.number(dataBytes, 4);
+    resource.zeros(dataBytes);
+    return resource.bytes;
+}
+
 bool writeAll(HANDLE file, const std::uint8_t* bytes, std::size_t count) {
     DWORD written = 0;
     return WriteFile(file, bytes, static_cast<DWORD>(count), &written, nullptr) && written == count;
@@ -76,7 +88,7 @@ bool write(const Recipe& recipe, const std::wstring& folder, std::ostream& list)
     Document document;
     document.isPsb = recipe.isPsb;
     document.channelDataBytes = recipe.channelBytes;
-    document.resources = Bytes(30'000, 0);
+    document.resources = imageResource(30'000);
     for (int i = 0; i < recipe.layers; ++i)
         document.layers.push_back(realisticLayer(i));
     PsdImage image = build(document);
