@@ -15,8 +15,8 @@ namespace _qv_commonwnd {
 IMPLEMENT_DYNAMIC(CQVGetPointDlg, CQVDialog)
 
 BEGIN_MESSAGE_MAP(CQVGetPointDlg, CQVDialog)
-    ON_BN_CLICKED(IDOK, OnBnClickedOk)
-    ON_MESSAGE(_qv_extractrl::QVN_EDITNOTIFY, OnTimeCodeChange)
+    ON_BN_CLICKED(IDOK, &CQVGetPointDlg::OnBnClickedOk)
+    ON_MESSAGE(_qv_extractrl::QVN_EDITNOTIFY, &CQVGetPointDlg::OnTimeCodeChange)
 END_MESSAGE_MAP()
 
 CQVGetPointDlg::CQVGetPointDlg(CWnd* parent) : CQVDialog(IDD_GETPOINT, parent) {

@@ -25,7 +25,7 @@ constexpr int kWindowHeightPx = 115;
 IMPLEMENT_DYNAMIC(CQVGetStrDlg, CQVDialog)
 
 BEGIN_MESSAGE_MAP(CQVGetStrDlg, CQVDialog)
-    ON_BN_CLICKED(IDOK, OnBnClickedOk)
+    ON_BN_CLICKED(IDOK, &CQVGetStrDlg::OnBnClickedOk)
     ON_WM_SIZE()
     ON_WM_PAINT()
 END_MESSAGE_MAP()

@@ -28,11 +28,11 @@ constexpr int kTrackerOption = _qv_extractrl::QVTRACKER_FRAME | _qv_extractrl::Q
 IMPLEMENT_DYNAMIC(CQVPicturePosDlg, CQVDialog)
 
 BEGIN_MESSAGE_MAP(CQVPicturePosDlg, CQVDialog)
-    ON_BN_CLICKED(IDOK, OnBnClickedOk)
-    ON_BN_CLICKED(IDC_PICTURE_DEFAULT, OnBnClickedDef)
-    ON_MESSAGE(_qv_extractrl::QVN_TRACKERMOVE, OnPosChange)
-    ON_EN_CHANGE(IDC_PICTURE_X, OnEnChangeXpos)
-    ON_EN_CHANGE(IDC_PICTURE_Y, OnEnChangeYpos)
+    ON_BN_CLICKED(IDOK, &CQVPicturePosDlg::OnBnClickedOk)
+    ON_BN_CLICKED(IDC_PICTURE_DEFAULT, &CQVPicturePosDlg::OnBnClickedDef)
+    ON_MESSAGE(_qv_extractrl::QVN_TRACKERMOVE, &CQVPicturePosDlg::OnPosChange)
+    ON_EN_CHANGE(IDC_PICTURE_X, &CQVPicturePosDlg::OnEnChangeXpos)
+    ON_EN_CHANGE(IDC_PICTURE_Y, &CQVPicturePosDlg::OnEnChangeYpos)
 END_MESSAGE_MAP()
 
 CQVPicturePosDlg::CQVPicturePosDlg(CWnd* parent)

@@ -61,7 +61,7 @@ BEGIN_MESSAGE_MAP(CZ5ProgressDlg, _qv_commonctrl::CQVDialog)
     ON_WM_TIMER()
     ON_WM_CLOSE()
     ON_WM_DESTROY()
-    ON_BN_CLICKED(IDC_PROGRESS_CANCEL, OnBnClickedExist)
+    ON_BN_CLICKED(IDC_PROGRESS_CANCEL, &CZ5ProgressDlg::OnBnClickedExist)
 END_MESSAGE_MAP()
 
 void CZ5ProgressDlg::ProgressWndDoModle(wchar_t* title, int range, float step) {
