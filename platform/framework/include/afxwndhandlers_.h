@@ -1,7 +1,8 @@
 // Inside class CWnd: the handlers of window messages. Here each does the default processing; a derived class
 // redefines the ones that its message map names and calls these for the rest. The macros are in afxmsgwnd_.h.
 // (No #pragma once: the file is part of the class.)
-// clang-format off: one handler a line
+// One handler a line.
+// clang-format off
 
 afx_msg int OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
 afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return static_cast<BOOL>(Default()); }

@@ -16,7 +16,8 @@ constexpr std::size_t kMagic = 0x51564755415244ull;
 constexpr unsigned char kFill =
     0xFD; // between the end of the block and the guard page, when alignment leaves room
 
-constexpr std::size_t kDeletedKept = 2048; // each costs the system an entry in its table of areas, which is limited
+constexpr std::size_t kDeletedKept =
+    2048; // each costs the system an entry in its table of areas, which is limited
 
 // Stands right before the block.
 struct Header {
