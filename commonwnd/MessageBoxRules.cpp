@@ -12,6 +12,8 @@ namespace {
 constexpr int kEdgePx = 6;
 constexpr int kRowGapPx = 4;
 constexpr int kNextToButtonGapPx = 8;
+// The ink of a line's last letter may end behind the width that the system measures.
+constexpr int kOverhangPx = 3;
 
 int Grown(int question, int window, int limit) {
     return std::max(window, std::min(question, limit));
@@ -29,10 +31,12 @@ CSize MessageBoxSize(CSize question, CSize window, CSize workArea, UINT dpi) {
 MessageBoxParts FitQuestion(MessageBoxParts parts, CSize client, CSize question, int noAskWidth, UINT dpi) {
     const auto scaled = [dpi](int px) { return _qv_commonctrl::QV_ScaleForDpi(px, dpi); };
     CRect& text = parts.question;
-    if (text.Width() < question.cx) {
-        const int width = std::min<int>(question.cx, client.cx - 2 * scaled(kEdgePx));
-        text.left = (client.cx - width) / 2;
-        text.right = text.left + width;
+    if (text.Width() < question.cx + scaled(kOverhangPx)) {
+        const int edge = scaled(kEdgePx);
+        const int width = std::min<int>(question.cx, client.cx - 2 * edge);
+        text.left = std::min<int>(text.left, (client.cx - width) / 2);
+        text.right = std::min<int>(std::max<int>(text.right, text.left + width + scaled(kOverhangPx)),
+                                   client.cx - edge);
     }
     if (text.Height() < question.cy) {
         // One row for tick box and buttons.

@@ -39,6 +39,7 @@ void CMeterPlayer::Play(SoundFile sound) {
     m_position = 0;
     SetTimer(kPlayTimer, kStepMs, nullptr);
     Step();
+    KeepOnScreen();
 }
 
 void CMeterPlayer::PlayFullFace() {
@@ -46,6 +47,21 @@ void CMeterPlayer::PlayFullFace() {
     m_tick = 0;
     SetTimer(kPlayTimer, kStepMs, nullptr);
     Step();
+    KeepOnScreen();
+}
+
+// The frame has taken the width that its meters need.
+void CMeterPlayer::KeepOnScreen() {
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    if (!::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor))
+        return;
+    const CRect work(monitor.rcWork);
+    CRect place;
+    GetWindowRect(&place);
+    const int left = std::max<int>(work.left, std::min<int>(place.left, work.right - place.Width()));
+    const int top = std::max<int>(work.top, std::min<int>(place.top, work.bottom - place.Height()));
+    SetWindowPos(nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 LRESULT CMeterPlayer::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -21,6 +21,7 @@ class CMeterPlayer : public _qv_commonwnd::CQVVUFrame {
 
   private:
     void Step();
+    void KeepOnScreen();
     void StepSound();
     void StepFullFace();
 

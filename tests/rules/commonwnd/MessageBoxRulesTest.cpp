@@ -57,7 +57,7 @@ TEST(Parts, OfAShortQuestionStay) {
 
 TEST(Parts, QuestionIsWidenedToBothSides) {
     const MessageBoxParts parts = FitQuestion(kTemplate, kClient, CSize(384, 20), 100, 96);
-    EXPECT_EQ(CRect(8, 14, 392, 86), parts.question);
+    EXPECT_EQ(CRect(8, 14, 394, 86), parts.question) << "the last letter may hang over";
     EXPECT_EQ(CRect(6, 14, 394, 86), FitQuestion(kTemplate, kClient, CSize(5000, 20), 100, 96).question);
 }
 
