@@ -24,8 +24,10 @@ std::optional<std::wstring> StartFolder(IProcessServices& services, const wchar_
         base = folder;
     } else {
         base = services.ExecutablePath();
-        if (!CutLastPart(base) || !CutLastPart(base))
-            return std::nullopt;
+        for (int part = 0; part < 2; ++part) { // the program and its folder
+            if (!CutLastPart(base))
+                return std::nullopt;
+        }
     }
     return base + L'\\';
 }

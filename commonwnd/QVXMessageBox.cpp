@@ -45,10 +45,10 @@ UINT QV_MessageRest() {
 IMPLEMENT_DYNAMIC(CQVXMessageBox, _qv_commonctrl::CQVDialog)
 
 BEGIN_MESSAGE_MAP(CQVXMessageBox, _qv_commonctrl::CQVDialog)
-    ON_BN_CLICKED(IDC_MSGBOX_YES, OnBnClickedYes)
-    ON_BN_CLICKED(IDC_MSGBOX_NO, OnBnClickedNo)
-    ON_BN_CLICKED(IDC_MSGBOX_CANCEL, OnBnClickedCancel)
-    ON_BN_CLICKED(IDC_MSGBOX_NOASK, OnBnClickedNoask)
+    ON_BN_CLICKED(IDC_MSGBOX_YES, &CQVXMessageBox::OnBnClickedYes)
+    ON_BN_CLICKED(IDC_MSGBOX_NO, &CQVXMessageBox::OnBnClickedNo)
+    ON_BN_CLICKED(IDC_MSGBOX_CANCEL, &CQVXMessageBox::OnBnClickedCancel)
+    ON_BN_CLICKED(IDC_MSGBOX_NOASK, &CQVXMessageBox::OnBnClickedNoask)
 END_MESSAGE_MAP()
 
 CQVXMessageBox::CQVXMessageBox(CWnd* parent)

@@ -51,10 +51,10 @@ constexpr int kAtomChars = 256;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CGalleryWnd, CQVDialog)
-    ON_COMMAND_RANGE(IDC_GALLERY_FIRST_ITEM, IDC_GALLERY_FIRST_ITEM + 99, OnItem)
-    ON_CBN_SELCHANGE(IDC_GALLERY_LANGUAGE, OnLanguage)
-    ON_CBN_SELCHANGE(IDC_GALLERY_SKIN, OnSkin)
-    ON_REGISTERED_MESSAGE(kSavePicture, OnSavePicture)
+    ON_COMMAND_RANGE(IDC_GALLERY_FIRST_ITEM, IDC_GALLERY_FIRST_ITEM + 99, &CGalleryWnd::OnItem)
+    ON_CBN_SELCHANGE(IDC_GALLERY_LANGUAGE, &CGalleryWnd::OnLanguage)
+    ON_CBN_SELCHANGE(IDC_GALLERY_SKIN, &CGalleryWnd::OnSkin)
+    ON_REGISTERED_MESSAGE(kSavePicture, &CGalleryWnd::OnSavePicture)
 END_MESSAGE_MAP()
 
 CGalleryWnd::CGalleryWnd(const GalleryOptions& options)

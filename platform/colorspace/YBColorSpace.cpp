@@ -1,5 +1,7 @@
 #include "YBColorSpace.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr double kBlackCode = 16.0;
@@ -27,7 +29,7 @@ constexpr LumaWeights WeightsOf(int matrix) {
 unsigned char ToCode(double value) {
     if (!(value > 0.0))
         return 0;
-    return value >= kFullCodes ? 255 : static_cast<unsigned char>(value + 0.5);
+    return value >= kFullCodes ? 255 : static_cast<unsigned char>(std::lround(value));
 }
 
 YBPixelYCbCr Encode(const LumaWeights& k, YBPixelRGB pixel) {

@@ -74,7 +74,7 @@ CQVCheckComboBox::CQVCheckComboBox() : m_pCheckImpl(new CQVCheckComboImpl) {
 
 CQVCheckComboBox::~CQVCheckComboBox() {
     if (m_hWnd)
-        DestroyWindow();
+        CQVCheckComboBox::DestroyWindow();
     delete m_pCheckImpl;
 }
 

@@ -134,7 +134,7 @@ HBRUSH CQVDialog::OnCtlColor(CDC* dc, CWnd* wnd, UINT ctlColor) {
     LRESULT own = 0;
     if (wnd && wnd->SendChildNotifyLastMsg(&own))
         return reinterpret_cast<HBRUSH>(own);
-    return SkinCtlColor(*dc, wnd->GetSafeHwnd(), ctlColor);
+    return SkinCtlColor(*dc, wnd ? wnd->m_hWnd : nullptr, ctlColor);
 }
 
 void CQVDialog::OnDestroy() {

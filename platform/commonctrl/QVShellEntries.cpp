@@ -111,7 +111,9 @@ bool ListDrives(std::vector<FolderEntry>& entries) {
         const std::wstring drive = {letter, L':'};
         entry.path = drive + L"\\";
         const std::wstring label = LabelOf(entry.path);
-        entry.name = label.empty() ? drive : label + L" (" + drive + L")";
+        entry.name = drive;
+        if (!label.empty())
+            entry.name.insert(0, L" (").insert(0, label).append(L")");
         entry.icon = FolderIcon::Drive;
         entries.push_back(std::move(entry));
     }

@@ -49,8 +49,9 @@ BOOL PASCAL CWnd::ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlag
 }
 
 int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
-    if (lpszStringBuf && nMaxCount > 0)
-        *lpszStringBuf = L'\0';
+    if (!lpszStringBuf || nMaxCount <= 0)
+        return 0;
+    *lpszStringBuf = L'\0';
     return ::GetWindowTextW(m_hWnd, lpszStringBuf, nMaxCount);
 }
 

@@ -69,8 +69,9 @@ bool LayerRecord::read(ByteCursor& section) {
 bool LayerRecord::readExtra(ByteCursor extra) {
     if (extra.left() == 0)
         return true; // the barest record: no mask, no name
-    const bool hasMaskAndRanges = skipStretch(extra) && skipStretch(extra);
-    if (!hasMaskAndRanges || !readLegacyBytes(extra))
+    const bool hasMask = skipStretch(extra);
+    const bool hasBlendingRanges = hasMask && skipStretch(extra);
+    if (!hasBlendingRanges || !readLegacyBytes(extra))
         return false;
 
     bool hasUnicodeName = false;

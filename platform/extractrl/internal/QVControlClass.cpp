@@ -102,7 +102,8 @@ bool CQVControlClass::ConnectObject(HWND wnd) const {
         std::unique_ptr<CWnd> object(m_make());
         Objects().Add(object.get());
         if (object->SubclassWindow(wnd)) {
-            object.release(); // from here on it is the window's, see QV_DeleteTemplateObject
+            static_cast<void>(
+                object.release()); // from here on it is the window's, see QV_DeleteTemplateObject
             return true;
         }
         Objects().Remove(object.get());

@@ -32,7 +32,7 @@ constexpr unsigned long long kLargestNegative = kLargestPositive + 1;
 int WholeRate(double rate) {
     if (!(rate >= kSlowestRate && rate <= kFastestRate))
         rate = kDefaultRate;
-    return static_cast<int>(rate + 0.5);
+    return static_cast<int>(std::lround(rate));
 }
 
 int DroppedPerMinute(const TimecodeFrameRate& rate, int wholeRate, int labelsPerSecond) {
