@@ -212,7 +212,7 @@ TEST_P(ScrollBars, ThumbIsDraggedAndShownUnderTheMouse) {
         user.onUi([&] { scrolled.host.End(); });
     });
     script.run([&] { scrolled.host.Loop(); });
-    EXPECT_NEAR(kItems / 2, scrolled.Position(), kItems / 6);
+    EXPECT_NEAR(kItems / 2, scrolled.Position(), kItems / 4);
 }
 
 TEST_P(ScrollBars, HoverLightsThePart) {
