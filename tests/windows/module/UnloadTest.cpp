@@ -138,7 +138,8 @@ TEST_F(Unload, LeavesNoHandleWindowOrDrawingObject) {
     // The platform's printing library, which comes with the common dialogs, loses a handle at each load.
     const LoadedLibrary commonDialogs(L"comdlg32.dll");
     constexpr int kRounds = 5;
-    for (int i = 0; i < kRounds; ++i) // the platform fills its caches of fonts and classes over the first ones
+    for (int i = 0; i < kRounds;
+         ++i) // the platform fills its caches of fonts and classes over the first ones
         LoadUseFree();
     const qvtest::LeakGuard guard;
     for (int i = 0; i < kRounds; ++i)
