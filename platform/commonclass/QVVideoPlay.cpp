@@ -2,39 +2,45 @@
 #include "FileByteSource.h"
 #include "SystemLegacyDecoder.h"
 #include "psd/LayerNames.h"
-#include <utility>
+#include <algorithm>
+#include <vector>
 
 namespace _qv_commonclass {
 
 namespace {
 
-void store(const psd::NameList& layers, CStringArray& names) {
-    names.SetSize(static_cast<INT_PTR>(layers.size()));
-    for (std::size_t i = 0; i < layers.size(); ++i) {
-        const std::u16string_view name = layers[i];
-        names.ElementAt(static_cast<INT_PTR>(i)) =
-            CString(reinterpret_cast<LPCWSTR>(name.data()), static_cast<int>(name.size()));
+// Each name goes straight into the text that the caller gets.
+class LayerTexts final : public psd::NameSink {
+  public:
+    void expect(std::size_t atMost) override { m_texts.reserve(atMost); }
+    void append(std::u16string_view name) override {
+        m_texts.emplace_back(reinterpret_cast<LPCWSTR>(name.data()), static_cast<int>(name.size()));
     }
-}
+
+    // Only the change of names' size can run out of memory, and then names is as before.
+    void moveTo(CStringArray& names) {
+        names.SetSize(static_cast<INT_PTR>(m_texts.size()));
+        std::move(m_texts.begin(), m_texts.end(), names.begin());
+    }
+
+  private:
+    std::vector<CString> m_texts;
+};
 
 } // namespace
 
 BOOL CQVVideoPlay::GetPsdLayerInfo(LPCWSTR path, CStringArray& names) {
     if (path == nullptr || *path == L'\0')
         return FALSE;
-    bool isStoring = false;
     try {
         FileByteSource file(path);
-        psd::NameList layers;
+        LayerTexts layers;
         if (!file.isOpen() ||
             psd::readLayerNames(file, SystemLegacyDecoder(), layers) != psd::ReadResult::Done)
             return FALSE;
-        isStoring = true;
-        store(layers, names);
+        layers.moveTo(names);
         return TRUE;
-    } catch (...) { // out of memory: no exception leaves this library, and no half list
-        if (isStoring)
-            names.RemoveAll();
+    } catch (...) { // out of memory: no exception leaves this library
         return FALSE;
     }
 }

@@ -48,7 +48,11 @@ CString::CString(char ch, int nRepeat) : CString(CString(&ch, 1).GetAt(0), nRepe
 }
 
 CString::CString(LPCWSTR pszSrc, int nLength) : m_pszData(s_nil.text) {
-    SetString(pszSrc, nLength);
+    if (!pszSrc || nLength <= 0)
+        return;
+    m_pszData = Allocate(GrownCapacity(0, nLength));
+    CopyChars(m_pszData, pszSrc, nLength);
+    SetLengthUnchecked(nLength);
 }
 
 CString::CString(LPCSTR pszSrc, int nLength) : m_pszData(s_nil.text) {
@@ -234,10 +238,13 @@ LPWSTR CString::Allocate(int nCapacity) {
 
 // Doubles, so that a text built unit by unit is copied a constant number of times on average.
 int CString::GrownCapacity(int nOld, int nNeeded) noexcept {
-    constexpr int kGranularity = 8; // units; blocks end on the heap's own granularity
+    // The heap rounds blocks up to steps of eight units, its own head of four units included; so does this, and no unit
+    // of the block is left unused.
+    constexpr int kGranularity = 8;
+    constexpr int kHeapHead = 4;
     const long long grown = 2LL * nOld;
     long long wanted = grown > nNeeded ? grown : nNeeded;
-    wanted = (wanted + kGranularity) / kGranularity * kGranularity - 1;
+    wanted = (wanted + kHeapHead) / kGranularity * kGranularity + kHeapHead - 1;
     return wanted < INT_MAX ? static_cast<int>(wanted) : INT_MAX - 1;
 }
 

@@ -16,7 +16,7 @@ class QVCOMMONCLASS_API CQVVideoPlay {
     // stored order: the bottom layer first. Adjustment layers count as layers; group headers and group ends
     // do not. Nonzero: names holds exactly the document's names, none for a document without layers. Zero:
     // path is null or empty, there is no such file, it cannot be read, is not a Photoshop document or is
-    // damaged as far as the layer section reaches; names is unchanged (empty when memory ran out on the way).
+    // damaged as far as the layer section reaches; names is unchanged.
     // Paths over 260 characters and \\?\ paths are fine. The file is opened for reading only and shared with
     // everybody; only the layer records are read, whatever the file's size. Any thread; nothing is kept.
     static BOOL GetPsdLayerInfo(LPCWSTR path, CStringArray& names);

@@ -14,7 +14,6 @@ class ByteCursor {
     ByteCursor(ReadWindow& window, std::uint64_t begin, std::uint64_t end) noexcept
         : m_window(&window), m_pos(begin), m_end(end) {}
 
-    std::uint64_t position() const noexcept { return m_pos; }
     std::uint64_t left() const noexcept { return m_end - m_pos; }
 
     bool skip(std::uint64_t count) noexcept {
@@ -24,10 +23,24 @@ class ByteCursor {
         return true;
     }
 
+    // Gets a short stretch into memory as a whole, so that its steps need not ask the window one by one. The cursor and
+    // those entered from it then stand on the window's bytes: they are valid until the window is used by another.
+    void hold() noexcept {
+        if (m_held != nullptr || left() > kMaxHeldBytes)
+            return;
+        m_held = m_window->bytesAt(m_pos, static_cast<std::size_t>(left()));
+        if (m_held == nullptr)
+            return;
+        m_end -= m_pos;
+        m_pos = 0;
+    }
+
     // The next count bytes without moving, valid until the window is used again; null when they are not
     // there.
     const std::uint8_t* peek(std::size_t count) noexcept {
-        return count <= left() ? m_window->bytesAt(m_pos, count) : nullptr;
+        if (count > left())
+            return nullptr;
+        return m_held != nullptr ? m_held + m_pos : m_window->bytesAt(m_pos, count);
     }
 
     // As peek, and moves past them.
@@ -67,8 +80,12 @@ class ByteCursor {
     bool enter(std::uint64_t length, ByteCursor& inner) noexcept {
         if (length > left())
             return false;
-        inner = ByteCursor(*m_window, m_pos, m_pos + length);
+        // Member by member: the position has just been written, and a copy of the whole would have to wait for it.
+        inner.m_window = m_window;
+        inner.m_held = m_held;
+        inner.m_pos = m_pos;
         m_pos += length;
+        inner.m_end = m_pos;
         return true;
     }
 
@@ -81,7 +98,12 @@ class ByteCursor {
     }
 
   private:
+    // Up to this length reading all of a stretch costs less than skipping parts of it.
+    static constexpr std::uint64_t kMaxHeldBytes = ReadWindow::kLongSkipBytes;
+
     ReadWindow* m_window = nullptr;
+    const std::uint8_t* m_held =
+        nullptr; // the bytes that positions count from; null: positions are the source's
     std::uint64_t m_pos = 0;
     std::uint64_t m_end = 0;
 };

@@ -29,13 +29,13 @@ bool isLayerBlock(std::uint32_t key) noexcept {
 
 } // namespace
 
-ReadResult DocumentReader::read(NameList& names) {
+ReadResult DocumentReader::read() {
     if (!readHeader())
         return ReadResult::NotPhotoshop;
     ByteCursor layers;
     if (!enterLayerSection(layers) || m_file.left() < kCompressionBytes)
         return ReadResult::Damaged;
-    return readLayerSection(layers, names);
+    return readLayerSection(layers);
 }
 
 bool DocumentReader::readHeader() noexcept {
@@ -73,7 +73,7 @@ bool DocumentReader::enterLayerSection(ByteCursor& section) noexcept {
            m_file.skip(resourceBytes) && readLength(m_file, layerBytes) && m_file.enter(layerBytes, section);
 }
 
-ReadResult DocumentReader::readLayerSection(ByteCursor section, NameList& names) {
+ReadResult DocumentReader::readLayerSection(ByteCursor section) {
     if (section.left() == 0)
         return ReadResult::Done; // a flat document
     std::uint64_t infoBytes = 0;
@@ -81,21 +81,21 @@ ReadResult DocumentReader::readLayerSection(ByteCursor section, NameList& names)
     if (!readLength(section, infoBytes) || !section.enter(infoBytes, info))
         return ReadResult::Damaged;
     if (info.left() > 0) {
-        const ReadResult result = readLayerInfo(info, names);
+        const ReadResult result = readLayerInfo(info);
         if (result != ReadResult::Done || m_recordCount > 0)
             return result;
     }
-    return readLayerBlocks(section, names);
+    return readLayerBlocks(section);
 }
 
-ReadResult DocumentReader::readLayerBlocks(ByteCursor section, NameList& names) {
+ReadResult DocumentReader::readLayerBlocks(ByteCursor section) {
     if (!skipGlobalMask(section))
         return ReadResult::Damaged;
     TaggedBlocks blocks(section, m_width, m_blockBudget);
     for (TaggedBlock block; blocks.next(block);) {
         if (!isLayerBlock(block.key) || block.body.left() == 0)
             continue;
-        const ReadResult result = readLayerInfo(block.body, names);
+        const ReadResult result = readLayerInfo(block.body);
         if (result != ReadResult::Done || m_recordCount > 0)
             return result;
     }
@@ -117,7 +117,7 @@ bool DocumentReader::skipGlobalMask(ByteCursor& section) noexcept {
     return section.readU32(maskBytes) && section.skip(maskBytes);
 }
 
-ReadResult DocumentReader::readLayerInfo(ByteCursor info, NameList& names) {
+ReadResult DocumentReader::readLayerInfo(ByteCursor info) {
     std::uint16_t storedCount = 0;
     if (!info.readU16(storedCount))
         return ReadResult::Damaged;
@@ -126,6 +126,7 @@ ReadResult DocumentReader::readLayerInfo(ByteCursor info, NameList& names) {
         static_cast<std::uint32_t>(std::abs(static_cast<int>(static_cast<std::int16_t>(storedCount))));
     if (m_recordCount * LayerRecord::kMinBytes > info.left())
         return ReadResult::Damaged;
+    m_sink.expect(m_recordCount);
     LayerRecord record(m_width, m_decoder, m_blockBudget);
     for (std::uint32_t i = 0; i < m_recordCount; ++i) {
         if (!record.read(info))
@@ -134,9 +135,10 @@ ReadResult DocumentReader::readLayerInfo(ByteCursor info, NameList& names) {
             return ReadResult::TooLarge;
         if (record.kind() == LayerKind::GroupMark)
             continue;
-        if (record.name().size() > kMaxNameUnitsTotal - names.totalUnits())
+        if (record.name().size() > m_nameUnitsLeft)
             return ReadResult::TooLarge;
-        names.append(record.name());
+        m_nameUnitsLeft -= record.name().size();
+        m_sink.append(record.name());
     }
     return ReadResult::Done;
 }

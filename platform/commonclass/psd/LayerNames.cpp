@@ -1,18 +1,12 @@
 #include "LayerNames.h"
 #include "DocumentReader.h"
-#include <utility>
 
 namespace _qv_commonclass::psd {
 
-ReadResult readLayerNames(ByteSource& source, const LegacyDecoder& decoder, NameList& names) {
+ReadResult readLayerNames(ByteSource& source, const LegacyDecoder& decoder, NameSink& sink) {
     ReadWindow window(source);
-    NameList read;
-    const ReadResult result = DocumentReader(window, decoder).read(read);
-    if (window.failed())
-        return ReadResult::Unreadable;
-    if (result == ReadResult::Done)
-        names = std::move(read);
-    return result;
+    const ReadResult result = DocumentReader(window, decoder, sink).read();
+    return window.failed() ? ReadResult::Unreadable : result;
 }
 
 } // namespace _qv_commonclass::psd

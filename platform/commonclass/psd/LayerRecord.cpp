@@ -1,4 +1,5 @@
 #include "LayerRecord.h"
+#include "LayerNames.h"
 #include "LegacyName.h"
 #include <algorithm>
 #include <cstring>
@@ -7,12 +8,16 @@ namespace _qv_commonclass::psd {
 
 namespace {
 
-constexpr std::uint64_t kBoundsBytes = 16;
+// A record begins with the layer's bounds and the number of its channels; behind those stand the blend mode with its
+// signature, four bytes of flags, and the length of the rest.
+constexpr std::size_t kBoundsBytes = 16;
+constexpr std::size_t kHeadBytes = kBoundsBytes + 2;
 constexpr std::uint64_t kChannelBytes = 6;      // id and 32-bit length
 constexpr std::uint64_t kWideChannelBytes = 10; // id and 64-bit length
 constexpr std::uint16_t kMaxChannels = 64;      // 56 of the document, transparency and masks
 constexpr std::uint32_t kBlendSignature = fourLetters("8BIM");
-constexpr std::uint64_t kBlendModeAndFlagsBytes = 8;
+constexpr std::size_t kExtraLengthOffset = 12;
+constexpr std::size_t kBlendBytes = kExtraLengthOffset + 4;
 
 constexpr std::uint32_t kUnicodeNameKey = fourLetters("luni");
 constexpr std::uint32_t kSectionKey = fourLetters("lsct");
@@ -53,22 +58,24 @@ bool LayerRecord::read(ByteCursor& section) {
     m_name.clear();
     m_legacyLength = 0;
 
-    std::uint16_t channels = 0;
-    if (!section.skip(kBoundsBytes) || !section.readU16(channels) || channels > kMaxChannels)
+    const std::uint8_t* head = section.take(kHeadBytes);
+    if (head == nullptr)
         return false;
-    if (!section.skip(channels * (m_width == LengthWidth::Bits64 ? kWideChannelBytes : kChannelBytes)))
+    const std::uint16_t channels = ByteCursor::u16Of(head + kBoundsBytes);
+    if (channels > kMaxChannels ||
+        !section.skip(channels * (m_width == LengthWidth::Bits64 ? kWideChannelBytes : kChannelBytes)))
         return false;
-    std::uint32_t signature = 0;
-    std::uint32_t extraLength = 0;
+    const std::uint8_t* blend = section.take(kBlendBytes);
+    if (blend == nullptr || ByteCursor::u32Of(blend) != kBlendSignature)
+        return false;
     ByteCursor extra;
-    return section.readU32(signature) && signature == kBlendSignature &&
-           section.skip(kBlendModeAndFlagsBytes) && section.readU32(extraLength) &&
-           section.enter(extraLength, extra) && readExtra(extra);
+    return section.enter(ByteCursor::u32Of(blend + kExtraLengthOffset), extra) && readExtra(extra);
 }
 
-bool LayerRecord::readExtra(ByteCursor extra) {
+bool LayerRecord::readExtra(ByteCursor& extra) {
     if (extra.left() == 0)
         return true; // the barest record: no mask, no name
+    extra.hold();
     const bool hasMask = skipStretch(extra);
     const bool hasBlendingRanges = hasMask && skipStretch(extra);
     if (!hasBlendingRanges || !readLegacyBytes(extra))
@@ -106,7 +113,7 @@ bool LayerRecord::readLegacyBytes(ByteCursor& extra) noexcept {
 }
 
 // Leaves the name empty when the block does not hold what its count promises.
-void LayerRecord::readUnicodeName(ByteCursor body) {
+void LayerRecord::readUnicodeName(ByteCursor& body) {
     std::uint32_t units = 0;
     if (!body.readU32(units) || units > body.left() / sizeof(char16_t))
         return;
@@ -115,13 +122,17 @@ void LayerRecord::readUnicodeName(ByteCursor body) {
     if (bytes == nullptr)
         return;
     m_name.resize(wanted);
+    char16_t* const text = m_name.data();
     bool hasSurrogates = false;
+    bool hasNul = false;
     for (std::size_t i = 0; i < wanted; ++i) {
-        m_name[i] = ByteCursor::u16Of(bytes + i * sizeof(char16_t));
-        hasSurrogates |= (m_name[i] & 0xF800) == 0xD800;
+        const char16_t unit = ByteCursor::u16Of(bytes + i * sizeof(char16_t));
+        text[i] = unit;
+        hasSurrogates |= (unit & 0xF800) == 0xD800;
+        hasNul |= unit == 0;
     }
-    if (const std::size_t end = m_name.find(u'\0'); end != std::u16string::npos)
-        m_name.resize(end);
+    if (hasNul)
+        m_name.resize(m_name.find(u'\0'));
     if (!hasSurrogates)
         return;
     if (wanted < units && !m_name.empty() && isHighSurrogate(m_name.back()))
@@ -129,7 +140,7 @@ void LayerRecord::readUnicodeName(ByteCursor body) {
     replaceLoneSurrogates(m_name);
 }
 
-void LayerRecord::readSectionKind(ByteCursor body) noexcept {
+void LayerRecord::readSectionKind(ByteCursor& body) noexcept {
     std::uint32_t type = 0;
     if (body.readU32(type) && (type == kOpenGroup || type == kClosedGroup || type == kGroupEnd))
         m_kind = LayerKind::GroupMark;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "LegacyDecoder.h"
-#include "NameList.h"
 #include "TaggedBlocks.h"
 #include <array>
 
@@ -14,8 +13,6 @@ enum class LayerKind { Layer, GroupMark };
 // so keeps its text's memory.
 class LayerRecord {
   public:
-    // Longer names are cut here; the program that owns the format allows 255.
-    static constexpr std::size_t kMaxNameUnits = NameList::kMaxNameUnits;
     // What a record takes at the least: bounds, channel count, blend mode and lengths.
     static constexpr std::uint64_t kMinBytes = 34;
 
@@ -27,13 +24,14 @@ class LayerRecord {
     bool read(ByteCursor& section);
 
     LayerKind kind() const noexcept { return m_kind; }
+    // At most kMaxNameUnits.
     const std::u16string& name() const noexcept { return m_name; }
 
   private:
-    bool readExtra(ByteCursor extra);
+    bool readExtra(ByteCursor& extra);
     bool readLegacyBytes(ByteCursor& extra) noexcept;
-    void readUnicodeName(ByteCursor body);
-    void readSectionKind(ByteCursor body) noexcept;
+    void readUnicodeName(ByteCursor& body);
+    void readSectionKind(ByteCursor& body) noexcept;
 
     LengthWidth m_width;
     const LegacyDecoder& m_decoder;

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::size_t kPieceBytes = 64 * 1024;
+constexpr std::size_t kPieceBytes = 32 * 1024;
 constexpr std::size_t kLongestFieldBytes = 1024;
 constexpr std::uint8_t kZeros[kLongestFieldBytes] = {};
 constexpr std::uint32_t kUnicodeName = 0x6C756E69;

@@ -3,6 +3,7 @@
 #include "BareRecords.h"
 #include "CountingSource.h"
 #include "SystemLegacyDecoder.h"
+#include "builder/CollectedNames.h"
 #include "psd/LayerNames.h"
 
 #include <QVCommonClass.h>
@@ -53,7 +54,7 @@ void registerTimes(const BenchDocument& document) {
 
 void printBytes(const BenchDocument& document) {
     CountingSource source(document.path.c_str());
-    _qv_commonclass::psd::NameList names;
+    psdtest::CollectedNames names;
     _qv_commonclass::psd::readLayerNames(source, _qv_commonclass::SystemLegacyDecoder(), names);
     const auto records = static_cast<double>(document.recordsEnd - document.recordsBegin);
     std::printf("bench|psd bytes beyond the records, %s|%.1f|kB|||%.0f\n", document.title.c_str(),

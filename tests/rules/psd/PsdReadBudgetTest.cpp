@@ -1,11 +1,14 @@
 #include "PsdReading.h"
 #include "builder/SparseSource.h"
+#include "psd/ReadWindow.h"
 #include <gtest/gtest.h>
 
 // What is read of a document: the records and little more, whatever lies around them.
 namespace psdtest {
 
 namespace {
+
+using _qv_commonclass::psd::ReadWindow;
 
 constexpr std::uint64_t kAllowanceBytes = 128 * 1024;
 
@@ -48,7 +51,7 @@ TEST(PsdReadBudget, SmallRecordsTakeFewReads) {
     const PsdImage image = build(manyLayers(8000, 0));
     const Reading reading = readBytes(image.bytes);
     EXPECT_EQ(reading.names.size(), 8000u);
-    EXPECT_LE(reading.reads, image.bytes.size() / (64 * 1024) + 10);
+    EXPECT_LE(reading.reads, image.bytes.size() / ReadWindow::kWideBytes + 10);
 }
 
 // The layers' pixels and the resources before them take gigabytes; only their lengths are looked at.

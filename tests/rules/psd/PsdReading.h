@@ -1,5 +1,6 @@
 #pragma once
 
+#include "builder/CollectedNames.h"
 #include "builder/MemorySource.h"
 #include "builder/PsdBuilder.h"
 #include "builder/TableDecoder.h"
@@ -9,7 +10,6 @@
 // What the tables of this folder compare.
 namespace psdtest {
 
-using _qv_commonclass::psd::NameList;
 using _qv_commonclass::psd::ReadResult;
 using Names = std::vector<std::u16string>;
 
@@ -22,10 +22,10 @@ struct Reading {
 
 inline Reading readFrom(_qv_commonclass::psd::ByteSource& source) {
     Reading reading;
-    NameList list;
-    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), list);
-    for (std::size_t i = 0; i < list.size(); ++i)
-        reading.names.emplace_back(list[i]);
+    CollectedNames collected;
+    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), collected);
+    if (reading.result == ReadResult::Done)
+        reading.names = std::move(collected.names);
     return reading;
 }
 

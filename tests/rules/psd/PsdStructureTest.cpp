@@ -166,16 +166,6 @@ TEST_P(PsdStructure, GivesNames) {
 
 INSTANTIATE_TEST_SUITE_P(Shapes, PsdStructure, testing::ValuesIn(shapes()));
 
-TEST(PsdStructure, KeepsFormerNamesOnFailure) {
-    NameList list;
-    list.append(u"former");
-    const Bytes other{'n', 'o'};
-    MemorySource source(other);
-    EXPECT_EQ(_qv_commonclass::psd::readLayerNames(source, TableDecoder(), list), ReadResult::NotPhotoshop);
-    ASSERT_EQ(list.size(), 1u);
-    EXPECT_EQ(list[0], u"former");
-}
-
 TEST(PsdStructure, TakesTheFirstOfTwoLayerBlocks) {
     Document document;
     document.layers = {layer(u"A")};
