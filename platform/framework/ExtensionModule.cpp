@@ -2,8 +2,7 @@
 #include "ClassList.h"
 #include "ThreadState.h"
 
-#include <algorithm>
-#include <vector>
+#include <memory>
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
@@ -12,15 +11,14 @@ namespace {
 // The lists that were put aside while a module constructs its static objects. A module may load another one
 // meanwhile, so they form a stack.
 struct SavedLists {
-    HINSTANCE hInstance;
-    CRuntimeClass* pClassList;
-    COleObjectFactory* pFactoryList;
+    HINSTANCE hInstance = nullptr;
+    CRuntimeClass* pClassList = nullptr;
+    COleObjectFactory* pFactoryList = nullptr;
+    std::unique_ptr<SavedLists> below = {};
 };
 
-std::vector<SavedLists>& Saved() {
-    static auto* const saved = new std::vector<SavedLists>; // outlives every module
-    return *saved;
-}
+// Plain pointer and no destructor: modules that unload after the framework's static objects are gone still look here.
+constinit SavedLists* g_savedTop = nullptr;
 
 bool Unlink(CRuntimeClass*& head, const CRuntimeClass* pClass) {
     for (CRuntimeClass** link = &head; *link; link = &(*link)->m_pNextClass)
@@ -38,17 +36,33 @@ template <class NODE> void Append(NODE*& head, NODE* tail) {
     *link = tail;
 }
 
-// Takes back what was put aside for the module; the classes registered meanwhile are in the state's list.
-bool PopSaved(HINSTANCE hInstance, SavedLists& found) {
-    auto& saved = Saved();
-    const auto at = std::find_if(saved.rbegin(), saved.rend(), [hInstance](const SavedLists& entry) {
-        return entry.hInstance == hInstance;
-    });
-    if (at == saved.rend())
-        return false;
-    found = *at;
-    saved.erase(std::next(at).base());
-    return true;
+void PushSaved(HINSTANCE hInstance, const AFX_MODULE_STATE& state) {
+    auto saved = std::make_unique<SavedLists>();
+    saved->hInstance = hInstance;
+    saved->pClassList = state.m_pClassList;
+    saved->pFactoryList = state.m_pFactoryList;
+    saved->below.reset(g_savedTop);
+    g_savedTop = saved.release();
+}
+
+// Takes back what was put aside for the module; the classes registered meanwhile are in the state's list. Empty when
+// nothing was.
+std::unique_ptr<SavedLists> PopSaved(HINSTANCE hInstance) {
+    SavedLists* above = nullptr;
+    SavedLists* at = g_savedTop;
+    for (; at && at->hInstance != hInstance; at = at->below.get())
+        above = at;
+    if (!at)
+        return nullptr;
+    SavedLists* const rest = at->below.release();
+    std::unique_ptr<SavedLists> found(at);
+    if (above) {
+        static_cast<void>(above->below.release()); // is `found` now
+        above->below.reset(rest);
+    } else {
+        g_savedTop = rest;
+    }
+    return found;
 }
 
 } // namespace
@@ -66,24 +80,23 @@ AFX_CLASSINIT::~AFX_CLASSINIT() {
     bool done = Unlink(state.m_pClassList, m_pClass);
     for (CDynLinkLibrary* library = state.m_pLibraryList; library && !done; library = library->m_pNextDLL)
         done = Unlink(library->m_pClassList, m_pClass);
-    for (SavedLists& saved : Saved())
-        done = done || Unlink(saved.pClassList, m_pClass);
+    for (SavedLists* saved = g_savedTop; saved && !done; saved = saved->below.get())
+        done = Unlink(saved->pClassList, m_pClass);
 }
 
 BOOL AFXAPI AfxRawExtensionEntry(HINSTANCE hInstance, DWORD dwReason) {
     const ModuleLock lock;
     AFX_MODULE_STATE& state = *AfxGetAppModuleState();
     if (dwReason == DLL_PROCESS_ATTACH) {
-        Saved().push_back({hInstance, state.m_pClassList, state.m_pFactoryList});
+        PushSaved(hInstance, state);
         state.m_pClassList = nullptr;
         state.m_pFactoryList = nullptr;
     } else if (dwReason == DLL_PROCESS_DETACH) {
         // Only a load that failed before AfxInitExtensionModule still has its lists put aside; the failed
         // module's classes take themselves out.
-        SavedLists saved = {};
-        if (PopSaved(hInstance, saved)) {
-            Append(state.m_pClassList, saved.pClassList);
-            state.m_pFactoryList = saved.pFactoryList;
+        if (const auto saved = PopSaved(hInstance)) {
+            Append(state.m_pClassList, saved->pClassList);
+            state.m_pFactoryList = saved->pFactoryList;
         }
     }
     return TRUE;
@@ -100,12 +113,11 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
     if (!state.hResource)
         state.hResource = hModule;
     AFX_MODULE_STATE& app = *AfxGetAppModuleState();
-    SavedLists saved = {};
-    if (PopSaved(hModule, saved)) {
+    if (const auto saved = PopSaved(hModule)) {
         state.pFirstSharedClass = app.m_pClassList;
         state.pFirstSharedFactory = app.m_pFactoryList;
-        app.m_pClassList = saved.pClassList;
-        app.m_pFactoryList = saved.pFactoryList;
+        app.m_pClassList = saved->pClassList;
+        app.m_pFactoryList = saved->pFactoryList;
     }
     MessageCache::Invalidate();
     return TRUE;

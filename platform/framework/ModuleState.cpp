@@ -1,27 +1,38 @@
 #include "ClassList.h"
 #include "ThreadState.h"
 
+#include <atomic>
+
 extern "C" IMAGE_DOS_HEADER __ImageBase;
 
 namespace {
 
-class Section {
+// Holds nothing of the system and has no destructor: modules that unload after the framework's static objects are gone
+// still take it, and unloading the framework leaves nothing behind.
+class NestingLock {
   public:
-    Section() { ::InitializeCriticalSection(&m_section); }
-    ~Section() { ::DeleteCriticalSection(&m_section); }
-    Section(const Section&) = delete;
-    Section& operator=(const Section&) = delete;
-    CRITICAL_SECTION* operator&() { return &m_section; }
+    void Enter() {
+        const DWORD self = ::GetCurrentThreadId();
+        if (m_owner.load(std::memory_order_relaxed) != self) { // only the owner finds its own number here
+            ::AcquireSRWLockExclusive(&m_lock);
+            m_owner.store(self, std::memory_order_relaxed);
+        }
+        ++m_depth;
+    }
+    void Leave() {
+        if (--m_depth > 0)
+            return;
+        m_owner.store(0, std::memory_order_relaxed);
+        ::ReleaseSRWLockExclusive(&m_lock);
+    }
 
   private:
-    CRITICAL_SECTION m_section;
+    SRWLOCK m_lock = SRWLOCK_INIT;
+    std::atomic<DWORD> m_owner = 0;
+    int m_depth = 0;
 };
 
-// Never destroyed: modules that unload after the framework's static objects are gone still take it.
-Section& ListSection() {
-    static Section* const section = new Section;
-    return *section;
-}
+constinit NestingLock g_listLock;
 
 AFX_MODULE_STATE MakeAppState() {
     AFX_MODULE_STATE state = {};
@@ -34,11 +45,11 @@ AFX_MODULE_STATE MakeAppState() {
 } // namespace
 
 ModuleLock::ModuleLock() {
-    ::EnterCriticalSection(&ListSection());
+    g_listLock.Enter();
 }
 
 ModuleLock::~ModuleLock() {
-    ::LeaveCriticalSection(&ListSection());
+    g_listLock.Leave();
 }
 
 HINSTANCE AfxFrameworkInstance() {

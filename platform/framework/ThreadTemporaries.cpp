@@ -37,6 +37,10 @@ Slot& ThreadSlot() {
     return slot;
 }
 
+// Made while the library is loaded at the latest: a slot that the first destructor of the unloading asked for would
+// never be given back.
+[[maybe_unused]] const Slot& g_slotFromLoadOn = ThreadSlot();
+
 } // namespace
 
 ThreadTemporaries& ThreadTemporaries::Get() {
