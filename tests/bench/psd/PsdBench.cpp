@@ -109,7 +109,7 @@ int main(int count, char** arguments) {
     const std::wstring folder = program.substr(0, program.rfind(L'\\')) + L"\\psd-documents";
     if (std::wstring(GetCommandLineW()).find(kWriteArgument) != std::wstring::npos)
         return writeBenchDocuments(folder) ? 0 : 1;
-    if (listBenchDocuments(folder).empty() && !writeDocumentsAside()) {
+    if (!writeDocumentsAside()) {
         std::fputs("cannot write the documents\n", stderr);
         return 1;
     }

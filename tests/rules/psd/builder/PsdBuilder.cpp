@@ -94,7 +94,9 @@ class Builder {
     }
 
     void record(const Layer& each, const std::string& name) {
-        m_image.zeros(16);
+        m_image.zeros(8); // top and left
+        m_image.number(each.heightPx, 4);
+        m_image.number(each.widthPx, 4);
         m_image.number(static_cast<std::uint64_t>(each.channels), 2, name + ".channels");
         for (int i = 0; i < each.channels; ++i) {
             m_image.number(static_cast<std::uint64_t>(i), 2);

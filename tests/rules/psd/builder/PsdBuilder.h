@@ -22,6 +22,8 @@ struct Layer {
     std::optional<std::u16string> unicodeName;
     std::vector<Block> blocksBefore; // before the Unicode name
     std::vector<Block> blocksAfter;
+    std::uint32_t heightPx = 0; // from the document's top left corner
+    std::uint32_t widthPx = 0;
     int channels = 1;
     Bytes mask;
     Bytes ranges;
