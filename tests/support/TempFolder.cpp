@@ -11,10 +11,12 @@ namespace qvtest {
 
 TempFolder::TempFolder() {
     static std::atomic<unsigned> serial{0};
-    const std::wstring name =
-        L"qvtest-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++serial);
-    const auto path = std::filesystem::canonical(std::filesystem::temp_directory_path()) / name;
-    std::filesystem::create_directories(path);
+    const std::wstring name = L"qvtest-" + std::to_wstring(GetCurrentProcessId()) + L"-";
+    const auto temporary = std::filesystem::canonical(std::filesystem::temp_directory_path());
+    std::filesystem::path path;
+    do { // a process of the same number that was stopped may have left its folders
+        path = temporary / (name + std::to_wstring(++serial));
+    } while (!std::filesystem::create_directory(path));
     m_path = path.wstring();
 }
 
