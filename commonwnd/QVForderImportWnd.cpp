@@ -68,11 +68,7 @@ void CQVForderImportWnd::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CQVForderImportWnd::OnPaint() {
-    CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC memory(&dc, client);
-    memory.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    CQVPaintMemoDC memory(this, QVCLR_WINDOW);
 }
 
 BOOL CQVForderImportWnd::OnEraseBkgnd(CDC*) {

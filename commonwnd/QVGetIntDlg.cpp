@@ -95,11 +95,7 @@ void CQVGetIntDlg::OnBnClickedOk() {
 
 // The timecode edit has no frame of its own in the skin's two tones; the dialog draws it round the edit.
 void CQVGetIntDlg::OnPaint() {
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC dc(&paint, client);
-    dc.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    CQVPaintMemoDC dc(this, QVCLR_WINDOW);
     if (!m_TimeCodeEdit.GetSafeHwnd())
         return;
     CRect frame = ChildRect(*this, IDC_VALUE_TIMECODE);

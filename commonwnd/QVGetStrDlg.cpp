@@ -117,11 +117,7 @@ void CQVGetStrDlg::LayOutWindow() {
 }
 
 void CQVGetStrDlg::OnPaint() {
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC dc(&paint, client);
-    dc.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    CQVPaintMemoDC dc(this, QVCLR_WINDOW);
     if (m_bFirstPaint && m_pEdit) {
         m_bFirstPaint = FALSE;
         m_pEdit->SetFocus();

@@ -156,11 +156,7 @@ HBRUSH CQVPsdOptionWnd::OnCtlColor(CDC* pDC, CWnd*, UINT) {
 }
 
 void CQVPsdOptionWnd::OnPaint() {
-    CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC memory(&dc, client);
-    memory.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    CQVPaintMemoDC memory(this, QVCLR_WINDOW);
 }
 
 // The names outlive the window: the host asks for them when the dialog is gone.

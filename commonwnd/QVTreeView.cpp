@@ -75,11 +75,7 @@ BOOL CQVTreeView::OnEraseBkgnd(CDC*) {
 }
 
 void CQVTreeView::OnPaint() {
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC dc(&paint, client);
-    dc.FillSolidRect(client, QV_GetSysColor(QVCLR_TREE));
+    CQVPaintMemoDC dc(this, QVCLR_TREE);
     DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
 }
 

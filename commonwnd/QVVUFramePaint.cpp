@@ -117,14 +117,10 @@ HBRUSH CQVVUFrame::OnCtlColor(CDC* pDC, CWnd*, UINT) {
 }
 
 void CQVVUFrame::OnPaint() {
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC dc(&paint, client);
-    dc.FillSolidRect(client, QV_GetSysColor(QVCLR_PANEL));
+    CQVPaintMemoDC dc(this, QVCLR_PANEL);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT));
-    PaintPanels(dc, client);
+    PaintPanels(dc, dc.Client());
     PaintLabels(dc);
     PaintTitles(dc);
     const UINT dpi = Dpi();
@@ -135,7 +131,7 @@ void CQVVUFrame::OnPaint() {
             continue;
         PaintLine(&dc, g_marksDb, kMarks,
                   CRect(group.scale.x, group.scale.y, group.scale.x + QV_ScaleForDpi(kScaleWidthPx, dpi),
-                        client.bottom - QV_ScaleForDpi(kScaleBottomPx, dpi)));
+                        dc.Client().bottom - QV_ScaleForDpi(kScaleBottomPx, dpi)));
     }
 }
 

@@ -56,11 +56,7 @@ void CToolBarEx::OnNcPaint() {
 }
 
 void CToolBarEx::OnPaint() {
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC dc(&paint, client);
-    dc.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    CQVPaintMemoDC dc(this, QVCLR_WINDOW);
     CFont* const former = dc.SelectObject(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(m_hWnd)));
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));

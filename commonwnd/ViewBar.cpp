@@ -33,11 +33,7 @@ void CViewBar::OnNcPaint() {
 }
 
 void CViewBar::OnPaint() {
-    CPaintDC paint(this);
-    CRect client;
-    GetClientRect(&client);
-    CQVMemoDC dc(&paint, client);
-    dc.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    CQVPaintMemoDC dc(this, QVCLR_WINDOW);
     const int count = GetButtonCount();
     for (int index = 0; index < count; ++index)
         PaintButton(&dc, index);

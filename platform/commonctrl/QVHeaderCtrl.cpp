@@ -139,10 +139,7 @@ LRESULT CQVHeaderCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND:
         return TRUE;
     case WM_PAINT: {
-        CPaintDC paint(this);
-        CRect client;
-        GetClientRect(client);
-        CQVMemoDC dc(&paint, client);
+        CQVPaintMemoDC dc(this, QVCLR_HEADER);
         Paint(&dc);
         return 0;
     }

@@ -69,11 +69,7 @@ LRESULT CQVListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE; // painted with the items
     case WM_PAINT:
         if (wParam == 0) {
-            CPaintDC paint(this);
-            CRect client;
-            GetClientRect(client);
-            CQVMemoDC dc(&paint, client);
-            dc.FillSolidRect(client, QV_GetSysColor(QVCLR_LIST));
+            CQVPaintMemoDC dc(this, QVCLR_LIST);
             return DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
         }
         break;

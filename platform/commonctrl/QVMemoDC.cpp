@@ -1,5 +1,7 @@
 #include "QVMemoDC.h"
 
+#include "QVSkin.h"
+
 #include <algorithm>
 #include <atomic>
 
@@ -161,6 +163,15 @@ void CQVMemoDC::CopyTransparent(COLORREF key) {
 
 void CQVMemoDC::Cancel() {
     m_bCopied = true;
+}
+
+QVPaintTarget::QVPaintTarget(CWnd* wnd) : m_paint(wnd) {
+    wnd->GetClientRect(m_client);
+}
+
+CQVPaintMemoDC::CQVPaintMemoDC(CWnd* wnd, int groundColor)
+    : QVPaintTarget(wnd), CQVMemoDC(&m_paint, m_client) {
+    FillSolidRect(m_client, QV_GetSysColor(groundColor));
 }
 
 } // namespace _qv_commonctrl

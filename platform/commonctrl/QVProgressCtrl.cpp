@@ -98,10 +98,7 @@ LRESULT CQVProgressCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_ERASEBKGND:
         return TRUE;
     case WM_PAINT: {
-        CPaintDC paint(this);
-        CRect client;
-        GetClientRect(client);
-        CQVMemoDC dc(&paint, client);
+        CQVPaintMemoDC dc(this, QVCLR_SCROLL_TRACK);
         Paint(&dc);
         return 0;
     }

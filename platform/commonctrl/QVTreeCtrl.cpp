@@ -57,11 +57,7 @@ LRESULT CQVTreeCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE; // painted with the items
     case WM_PAINT:
         if (wParam == 0) {
-            CPaintDC paint(this);
-            CRect client;
-            GetClientRect(client);
-            CQVMemoDC dc(&paint, client);
-            dc.FillSolidRect(client, QV_GetSysColor(QVCLR_TREE));
+            CQVPaintMemoDC dc(this, QVCLR_TREE);
             return DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
         }
         break;

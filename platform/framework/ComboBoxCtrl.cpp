@@ -1,4 +1,5 @@
 #include "afxctl_list.h"
+#include "ItemMessages.h"
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
@@ -19,22 +20,8 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
         return TRUE;
     LRESULT result = 0;
-    switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_COMPAREITEM:
-        result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
-    default:
+    if (!DispatchItemMessage(*this, message, lParam, result))
         return FALSE;
-    }
     if (pResult)
         *pResult = result;
     return TRUE;

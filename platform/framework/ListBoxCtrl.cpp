@@ -1,4 +1,5 @@
 #include "afxctl_list.h"
+#include "ItemMessages.h"
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
@@ -22,18 +23,6 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         return TRUE;
     LRESULT result = 0;
     switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_COMPAREITEM:
-        result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
     case WM_VKEYTOITEM:
         result = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
         break;
@@ -41,7 +30,8 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         result = CharToItem(LOWORD(wParam), HIWORD(wParam));
         break;
     default:
-        return FALSE;
+        if (!DispatchItemMessage(*this, message, lParam, result))
+            return FALSE;
     }
     if (pResult)
         *pResult = result;
