@@ -59,6 +59,9 @@ int main(int count, char** arguments) {
     seeds.add("pairs",
               of({layer(u"\U0001F3AC"), layer(std::u16string{0xD83C}), layer(std::u16string{0xDFAC})}));
     seeds.add("long", of({layer(std::u16string(4100, u'n'))}));
+    Layer heavy = layer(u"heavy"); // too long to be looked at as a whole
+    heavy.blocksBefore = {{"lfx2", Bytes(12'500, 1)}};
+    seeds.add("heavy", of({heavy, layer(u"A")}));
     Layer wide = layer(u"wide");
     wide.blocksBefore = {{"cinf", Bytes(6, 1), "8B64", 1}, {"Lr16", Bytes(4, 1), "8BIM", 4}};
     seeds.add("wide", of({wide}));

@@ -1,6 +1,4 @@
-#include "ProcessPeak.h"
-#include "PsdReading.h"
-#include <chrono>
+#include "BoundedReading.h"
 #include <gtest/gtest.h>
 
 // Documents that are broken on purpose. Whatever the answer is, it comes at once, without much memory, and
@@ -8,32 +6,6 @@
 namespace psdtest {
 
 namespace {
-
-constexpr std::chrono::milliseconds kLongest{100};
-constexpr int kTries = 10;
-constexpr std::size_t kMostMemoryBytes = 32 * 1024 * 1024;
-
-// Asking for the peak takes longer than reading a small document, and small ones do not reach the limit unless their
-// lengths are believed: those are met in the tests of spoiled fields, one document each.
-enum class Memory { Watched, Unwatched };
-
-Reading readBounded(const Bytes& bytes, Memory memory = Memory::Watched) {
-    const std::size_t peakBefore = memory == Memory::Watched ? processPeakBytes() : 0;
-    Reading reading;
-    // On a busy machine any single run may have to wait; the shortest of a few tells what the work takes.
-    auto shortest = std::chrono::steady_clock::duration::max();
-    for (int tries = 0; tries < kTries && shortest >= kLongest; ++tries) {
-        const auto begin = std::chrono::steady_clock::now();
-        reading = readBytes(bytes);
-        shortest = std::min(shortest, std::chrono::steady_clock::now() - begin);
-    }
-    EXPECT_LT(shortest, kLongest);
-    if (memory == Memory::Watched) {
-        EXPECT_LE(processPeakBytes(), peakBefore + kMostMemoryBytes);
-    }
-    EXPECT_TRUE(reading.result == ReadResult::Done || reading.names.empty());
-    return reading;
-}
 
 struct Spoiled {
     const char* field;
