@@ -22,6 +22,7 @@ void PrintTo(const Fixture& fixture, std::ostream* out) {
 const Names kGimpNames = {L"Background", L"\u80CC\u666F\u56FE\u5C42", L"\u3072\u3089\u304C\u306A",
                           L"Gr\u00F6\u00DFe \U0001F3AC"};
 const Names kNested = {L"Bottom", L"In outer", L"Deep", L"Deeper", L"Top"};
+const Names kPsdTools = {L"Bottom", L"\u80CC\u666F\u56FE\u5C42", L"Gr\u00F6\u00DFe \u03A9", L"Top"};
 const Names kAgUnicode = {L"\u80CC\u666F",
                           L"\u30BF\u30A4\u30C8\u30EB",
                           L"\u00DCn\u00EFc\u00F6d\u00E9",
@@ -42,6 +43,11 @@ const Fixture kFixtures[] = {
     {L"ag-psd-groups.psb", kNested},
     {L"ag-psd-adjustments.psd", {L"Photo", L"Curve", L"\u53CD\u76F8", L"Levels", L"Masked"}},
     {L"ag-psd-negative-count.psd", {L""}}, // one layer without a name
+    {L"psd-tools-flat.psd", {}},
+    {L"psd-tools-flat-32.psd", {}},
+    {L"psd-tools-groups-16.psd", kPsdTools},
+    {L"psd-tools-groups-32.psd", kPsdTools},
+    {L"psd-tools-groups-32.psb", kPsdTools},
     {L"imagemagick-palette.psd", {L"L1"}},
     {L"imagemagick-16.psd", {L"Sixteen", L"Bits"}},
     {L"imagemagick.psb", {L"Large", L"Document"}},
