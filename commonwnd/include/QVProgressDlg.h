@@ -1,5 +1,7 @@
 // QVProgressDlg.h: a modal progress window that is driven through static members.
 //
+//     CZ5ProgressDlg::EndProgressWnd(0); // the window never clears it
+//     CZ5ProgressDlg::m_bExist = 0;      // cleared as it opens, but the work may ask sooner
 //     std::thread work([&] {
 //         for (int i = 0; i < count && !CZ5ProgressDlg::Exist(); ++i) {
 //             Copy(files[i]);
@@ -7,7 +9,6 @@
 //         }
 //         CZ5ProgressDlg::EndProgressWnd(1);
 //     });
-//     CZ5ProgressDlg::EndProgressWnd(0); // the window never clears it
 //     CZ5ProgressDlg::ProgressWndDoModle(title, 100, 0.5f); // returns when the work has ended it
 //     work.join();
 #pragma once
@@ -46,7 +47,8 @@ class QVCOMMONWND_API CZ5ProgressDlg : public _qv_commonctrl::CQVDialog {
     // Non-zero: at its next tick the window fills the bar and closes. 0 takes it back.
     static void EndProgressWnd(int end);
 
-    // 1 after the user has pressed the cancel button, else 0. The window stays until the host ends it.
+    // 1 after the user has pressed the cancel button, else 0. The window stays until the host ends it. Keeps the
+    // answer until the next window opens: a host whose work starts before that sets m_bExist to 0 first.
     static int Exist();
 
     static int m_bEndWnd;   // see EndProgressWnd; 0 at load

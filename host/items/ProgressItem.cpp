@@ -93,7 +93,8 @@ class MediaCheck {
 void CheckMedia(IGalleryContext& context) {
     MediaCheck check(FilesOf(context.SampleFolder()));
     CString title = QV_LoadSysString(L"IDS_GALLERY_PROGRESS");
-    CZ5ProgressDlg::EndProgressWnd(0); // of the run before
+    CZ5ProgressDlg::EndProgressWnd(0); // of the run before, as the answer that the worker may ask for
+    CZ5ProgressDlg::m_bExist = 0;      // before the window is there to clear it
     std::thread worker([&check] { check.Run(); });
     CZ5ProgressDlg::ProgressWndDoModle(title.GetBuffer(), kRange, 0.0f);
     worker.join();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 namespace qvtest {
 namespace {
@@ -21,9 +22,41 @@ Census takeWhenQuiet(const Census& before, long heapTolerance) {
     return now;
 }
 
+DWORD WINAPI endAtOnce(LPVOID) {
+    return 0;
+}
+
+DWORD WINAPI useLocks(LPVOID) {
+    constexpr int kRounds = 300;
+    constexpr int kThreadsUnderWay = 16;
+    constexpr SIZE_T kBlockBytes = 64;
+    for (int i = 0; i < kRounds; ++i) {
+        HeapFree(GetProcessHeap(), 0, HeapAlloc(GetProcessHeap(), 0, kBlockBytes));
+        FreeLibrary(LoadLibraryW(L"gdi32.dll"));
+        const HANDLE thread = CreateThread(nullptr, 0, &endAtOnce, nullptr, 0, nullptr);
+        if (i % kThreadsUnderWay == 0)
+            WaitForSingleObject(thread, INFINITE);
+        CloseHandle(thread);
+    }
+    return 0;
+}
+
+// The platform makes an event for a lock when threads first wait for it, and keeps it: on a busy machine that may
+// be in the middle of the runs. Here the threads meet at the locks of heap, loader and thread list beforehand.
+bool meetAtLocks() {
+    std::array<HANDLE, 4> threads = {};
+    for (HANDLE& thread : threads)
+        thread = CreateThread(nullptr, 0, &useLocks, nullptr, 0, nullptr);
+    WaitForMultipleObjects(static_cast<DWORD>(threads.size()), threads.data(), TRUE, INFINITE);
+    for (const HANDLE thread : threads)
+        CloseHandle(thread);
+    return true;
+}
+
 } // namespace
 
 LeakGuard::LeakGuard() {
+    [[maybe_unused]] static const bool met = meetAtLocks();
     Census::take(); // its own first-time blocks
     Census::fillQueueOfFreedBlocks();
     m_before = Census::take();

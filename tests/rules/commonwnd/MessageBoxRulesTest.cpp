@@ -51,8 +51,13 @@ void ExpectParts(const MessageBoxParts& expected, const MessageBoxParts& parts) 
 }
 
 TEST(Parts, OfAShortQuestionStay) {
-    ExpectParts(kTemplate, FitQuestion(kTemplate, kClient, CSize(360, 72), 100, 96));
+    ExpectParts(kTemplate, FitQuestion(kTemplate, kClient, CSize(357, 72), 100, 96));
     ExpectParts(kTemplate, FitQuestion(kTemplate, kClient, CSize(0, 0), 0, 96));
+}
+
+TEST(Parts, QuestionThatJustFitsGetsRoomForItsOverhang) {
+    const MessageBoxParts parts = FitQuestion(kTemplate, kClient, CSize(358, 72), 100, 96);
+    EXPECT_EQ(CRect(20, 14, 381, 86), parts.question);
 }
 
 TEST(Parts, QuestionIsWidenedToBothSides) {
