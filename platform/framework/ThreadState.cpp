@@ -1,64 +1,39 @@
 #include "ThreadState.h"
 #include "ThreadTemporaries.h"
-
-#include <utility>
+#include "FiberSlot.h"
 
 namespace {
 
-// A fibre-local slot calls back when its thread ends, and for all threads when it is freed.
-class Slot {
-  public:
-    Slot() : m_index(::FlsAlloc(&Slot::Delete)) {}
-    ~Slot() {
-        const DWORD index = std::exchange(m_index, FLS_OUT_OF_INDEXES);
-        if (index != FLS_OUT_OF_INDEXES)
-            ::FlsFree(index);
-    }
-    Slot(const Slot&) = delete;
-    Slot& operator=(const Slot&) = delete;
-
-    AfxThreadState& Value() {
-        if (m_index == FLS_OUT_OF_INDEXES)
-            return Late();
-        if (void* const value = ::FlsGetValue(m_index))
-            return *static_cast<AfxThreadState*>(value);
-        auto* const made = new AfxThreadState;
-        ::FlsSetValue(m_index, made);
-        return *made;
-    }
-
-    AfxThreadState* Existing() const {
-        return m_index != FLS_OUT_OF_INDEXES ? static_cast<AfxThreadState*>(::FlsGetValue(m_index)) : nullptr;
-    }
-
-  private:
-    // After the slot is gone only destructors of the ending process ask; what they get is never freed.
-    static AfxThreadState& Late() {
-        static AfxThreadState* const late = new AfxThreadState;
-        return *late;
-    }
-    static void WINAPI Delete(PVOID value) { delete static_cast<AfxThreadState*>(value); }
-
-    DWORD m_index;
-};
-
-Slot& ThreadSlot() {
-    static Slot slot;
+FiberSlot<AfxThreadState>& ThreadSlot() {
+    static FiberSlot<AfxThreadState> slot;
     return slot;
 }
 
 // Made while the library is loaded at the latest: a slot that the first destructor of the unloading asked for would
 // never be given back.
-[[maybe_unused]] const Slot& g_slotFromLoadOn = ThreadSlot();
+[[maybe_unused]] const FiberSlot<AfxThreadState>& g_slotFromLoadOn = ThreadSlot();
+
+// After the slot is gone only destructors of the ending process ask; what they get is never freed.
+AfxThreadState& LateState() {
+    static AfxThreadState* const late = new AfxThreadState;
+    return *late;
+}
 
 } // namespace
 
 AfxThreadState& AfxThreadState::Get() {
-    return ThreadSlot().Value();
+    const FiberSlot<AfxThreadState>& slot = ThreadSlot();
+    if (!slot.IsOpen())
+        return LateState();
+    if (AfxThreadState* const value = slot.Value())
+        return *value;
+    auto* const made = new AfxThreadState;
+    slot.SetValue(made);
+    return *made;
 }
 
 AfxThreadState* AfxThreadState::GetExisting() {
-    return ThreadSlot().Existing();
+    return ThreadSlot().Value();
 }
 
 TemporaryScope::TemporaryScope()

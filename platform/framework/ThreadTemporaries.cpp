@@ -1,51 +1,28 @@
 #include "ThreadTemporaries.h"
+#include "FiberSlot.h"
+
+#include <memory>
 
 namespace {
 
-// A fibre-local slot calls back when its thread ends, and for all threads when it is freed: no thread keeps
-// objects whose code is gone.
-class Slot {
-  public:
-    Slot() : m_index(::FlsAlloc(&Slot::Delete)) {}
-    ~Slot() {
-        const DWORD index = std::exchange(m_index, FLS_OUT_OF_INDEXES);
-        if (index != FLS_OUT_OF_INDEXES)
-            ::FlsFree(index);
-    }
-    Slot(const Slot&) = delete;
-    Slot& operator=(const Slot&) = delete;
-
-    ThreadTemporaries* Value() const {
-        return m_index != FLS_OUT_OF_INDEXES ? static_cast<ThreadTemporaries*>(::FlsGetValue(m_index))
-                                             : nullptr;
-    }
-    ThreadTemporaries& MakeValue() {
-        std::unique_ptr<ThreadTemporaries> made = std::make_unique<ThreadTemporaries>();
-        if (m_index == FLS_OUT_OF_INDEXES || !::FlsSetValue(m_index, made.get()))
-            AfxThrowMemoryException();
-        return *made.release();
-    }
-
-  private:
-    static void WINAPI Delete(PVOID value) { delete static_cast<ThreadTemporaries*>(value); }
-
-    DWORD m_index;
-};
-
-Slot& ThreadSlot() {
-    static Slot slot;
+FiberSlot<ThreadTemporaries>& ThreadSlot() {
+    static FiberSlot<ThreadTemporaries> slot;
     return slot;
 }
 
 // Made while the library is loaded at the latest: a slot that the first destructor of the unloading asked for would
 // never be given back.
-[[maybe_unused]] const Slot& g_slotFromLoadOn = ThreadSlot();
+[[maybe_unused]] const FiberSlot<ThreadTemporaries>& g_slotFromLoadOn = ThreadSlot();
 
 } // namespace
 
 ThreadTemporaries& ThreadTemporaries::Get() {
-    ThreadTemporaries* const existing = GetExisting();
-    return existing ? *existing : ThreadSlot().MakeValue();
+    if (ThreadTemporaries* const existing = GetExisting())
+        return *existing;
+    auto made = std::make_unique<ThreadTemporaries>();
+    if (!ThreadSlot().SetValue(made.get()))
+        AfxThrowMemoryException();
+    return *made.release();
 }
 
 ThreadTemporaries* ThreadTemporaries::GetExisting() {
