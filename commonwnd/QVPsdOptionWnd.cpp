@@ -184,7 +184,8 @@ void CQVPsdOptionWnd::FillLayerList() {
     m_cmbLayer.ResetContent();
     const INT_PTR count = m_arrLayerName.GetSize();
     for (INT_PTR i = count - 1; i >= 0; --i)
-        m_cmbLayer.SetCheck(m_cmbLayer.AddString(m_arrLayerName.GetAt(i)), TRUE);
+        m_cmbLayer.AddString(m_arrLayerName.GetAt(i));
+    m_cmbLayer.CheckAll(TRUE);
     if (count > 0)
         m_cmbLayer.SetCurSel(0);
     m_cmbLayer.SetRedraw(TRUE);

@@ -3,6 +3,7 @@
 #include "QVComboImpl.h"
 #include "QVMark.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace _qv_commonctrl {
@@ -96,12 +97,22 @@ BOOL CQVCheckComboBox::SetCheck(int item, BOOL check) {
     if (!m_pCheckImpl->Has(item))
         return FALSE;
     m_pCheckImpl->checks[static_cast<std::size_t>(item)] = check != FALSE;
+    RepaintMarks();
+    return TRUE;
+}
+
+void CQVCheckComboBox::CheckAll(BOOL check) {
+    std::fill(m_pCheckImpl->checks.begin(), m_pCheckImpl->checks.end(), check != FALSE);
+    if (m_hWnd)
+        RepaintMarks();
+}
+
+void CQVCheckComboBox::RepaintMarks() {
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
     if (GetComboBoxInfo(&info) && info.hwndList)
         ::InvalidateRect(info.hwndList, nullptr, FALSE);
     Invalidate(FALSE);
-    return TRUE;
 }
 
 CString CQVCheckComboBox::GetText(int item) const {

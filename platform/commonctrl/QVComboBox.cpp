@@ -121,7 +121,9 @@ LRESULT CQVComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         return CComboBox::WindowProc(message, wParam, lParam);
     }
     const LRESULT result = CComboBox::WindowProc(message, wParam, lParam);
-    if (message == WM_CREATE && result == 0)
+    if (message == WM_SETREDRAW)
+        m_pImpl->SetListRedraw(wParam != FALSE);
+    else if (message == WM_CREATE && result == 0)
         m_pImpl->AttachParts();
     else if (drawing == Drawing::WithNotice)
         m_pImpl->Repaint();

@@ -85,6 +85,13 @@ ControlState CQVComboImpl::State() const {
     return hot.IsHot() ? ControlState::Hot : ControlState::Normal;
 }
 
+void CQVComboImpl::SetListRedraw(bool redraw) const {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    if (::GetComboBoxInfo(Wnd(), &info) && info.hwndList)
+        ::SendMessageW(info.hwndList, WM_SETREDRAW, redraw, 0);
+}
+
 void CQVComboImpl::Repaint() const {
     if (Wnd())
         ::RedrawWindow(Wnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_NOCHILDREN);

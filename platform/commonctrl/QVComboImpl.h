@@ -24,6 +24,8 @@ class CQVComboImpl {
 
     void Paint(CDC* dc, const CRect& client);
     void Repaint() const;
+    // The system stops only the field's drawing: a list that is being filled works out its look at every entry.
+    void SetListRedraw(bool redraw) const;
 
     // One entry as the skin draws it: ground (list rows only) and text.
     void DrawTextEntry(CDC* dc, const CString& text, const CRect& rect, UINT itemState) const;

@@ -109,6 +109,8 @@ class QVCOMMONCTRL_API CQVCheckComboBox : public CQVComboBox {
     // Check state of entry `item` (0-based): 1 or 0; an index outside the list is 0 / ignored (FALSE).
     int GetCheck(int item) const;
     BOOL SetCheck(int item, BOOL check);
+    // Checks or unchecks every entry, with one repaint: for long lists.
+    void CheckAll(BOOL check);
     // Text of entry `item`; empty for an index outside the list.
     CString GetText(int item) const;
 
@@ -121,6 +123,7 @@ class QVCOMMONCTRL_API CQVCheckComboBox : public CQVComboBox {
 
   private:
     void Toggle(int item);
+    void RepaintMarks();
     void OnListClosed();
     void FollowEntries(UINT message, WPARAM wParam, LRESULT result);
     CString GetCheckedTexts(int enoughChars) const;

@@ -56,6 +56,12 @@ TEST_F(Controls, CheckMarksFollowTheirEntries) {
     EXPECT_EQ("000", dialog.Marks());
     layers.SetCheck(0, 5);
     EXPECT_EQ(1, layers.GetCheck(0)) << "1 whatever was given";
+    layers.CheckAll(TRUE);
+    EXPECT_EQ("111", dialog.Marks());
+    layers.CheckAll(FALSE);
+    EXPECT_EQ("000", dialog.Marks());
+    layers.CheckAll(7);
+    EXPECT_EQ(1, layers.GetCheck(2)) << "1 whatever was given";
     layers.ResetContent();
     EXPECT_EQ("", dialog.Marks());
     EXPECT_EQ(0, layers.GetCheck(0));

@@ -269,6 +269,18 @@ TEST_F(Panels, ManyLayers) {
     info.cbSize = sizeof info;
     ASSERT_TRUE(panel.m_cmbLayer.GetComboBoxInfo(&info));
     EXPECT_FALSE(::IsWindowVisible(info.hwndList)) << "filling opens no list";
+    panel.Choose(kByLayers);
+    panel.m_cmbLayer.ShowDropDown(TRUE);
+    Pump();
+    EXPECT_TRUE(::IsWindowVisible(info.hwndList));
+    SCROLLINFO scroll = {};
+    scroll.cbSize = sizeof scroll;
+    scroll.fMask = SIF_ALL;
+    ASSERT_TRUE(::GetScrollInfo(info.hwndList, SB_VERT, &scroll));
+    EXPECT_EQ(count - 1, scroll.nMax) << "the bar knows of every entry";
+    ::SendMessageW(info.hwndList, WM_KEYDOWN, VK_END, 0);
+    EXPECT_EQ(count - static_cast<int>(scroll.nPage), ::SendMessageW(info.hwndList, LB_GETTOPINDEX, 0, 0));
+    panel.m_cmbLayer.ShowDropDown(FALSE);
 }
 
 TEST_F(Panels, OpenAndCloseLeavesNothing) {
