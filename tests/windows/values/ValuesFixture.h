@@ -41,9 +41,16 @@ class Values : public testing::Test {
         return script.run(body);
     }
 
-    // Runs a dialog without input: the action is done inside its modal loop, on its thread.
+    // Runs a dialog without input: the action is done inside its modal loop, on its thread, once the dialog stands on
+    // the screen with everything painted. (The loop shows it when no message waits, which may be later than the timer
+    // that starts the action: it would end unseen in some runs, and what painting caches would look like a loss.)
     template <class Dialog> static INT_PTR RunOnce(Dialog& dialog, const std::function<void()>& action) {
-        Once(action);
+        Once([&dialog, action] {
+            dialog.ShowWindow(SW_SHOW);
+            dialog.RedrawWindow(nullptr, nullptr,
+                                RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+            action();
+        });
         return dialog.DoModal();
     }
 
