@@ -184,12 +184,28 @@ TEST_F(Progress, HugeTexts) {
     });
 }
 
+namespace {
+
+// Ends the window as soon as it stands on the screen with everything painted.
+void CALLBACK EndWhenPainted(HWND, UINT, UINT_PTR, DWORD) {
+    const HWND window = ::GetActiveWindow();
+    if (!::IsWindowVisible(window))
+        return;
+    ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    CZ5ProgressDlg::EndProgressWnd(1);
+}
+
+} // namespace
+
 TEST_F(Progress, ManyRunsLeaveNothingBehind) {
-    CZ5ProgressDlg::EndProgressWnd(1); // each window closes at its first tick
     qvtest::expectNoLeak(200,
                          [] {
                              wchar_t title[] = L"Short";
+                             CZ5ProgressDlg::EndProgressWnd(0);
+                             const UINT_PTR timer =
+                                 ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, EndWhenPainted);
                              CZ5ProgressDlg::ProgressWndDoModle(title, 3, 1.0f);
+                             ::KillTimer(nullptr, timer);
                          },
                          {.heapBlocks = 1}); // of the static
 }

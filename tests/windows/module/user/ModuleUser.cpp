@@ -10,9 +10,13 @@ constexpr wchar_t kTitle[] = L"Box of the module user";
 constexpr UINT kPollMs = 10;
 constexpr int kYesButtonId = 31095;
 
+// Not before the box is on the screen with everything painted, so that each visit uses the same of the system.
 void CALLBACK AnswerYes(HWND, UINT, UINT_PTR, DWORD) {
-    if (const HWND box = ::FindWindowW(nullptr, kTitle))
-        ::PostMessageW(box, WM_COMMAND, MAKEWPARAM(kYesButtonId, BN_CLICKED), 0);
+    const HWND box = ::FindWindowW(nullptr, kTitle);
+    if (!::IsWindowVisible(box))
+        return;
+    ::RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    ::PostMessageW(box, WM_COMMAND, MAKEWPARAM(kYesButtonId, BN_CLICKED), 0);
 }
 
 } // namespace
