@@ -17,6 +17,7 @@ add_custom_target(qv_benchmarks)
 # Names join the figures of one topic to one row of the table (scripts/bench_table.py):
 #   BM("topic/ours")->UseRealTime()            our time
 #   BM("topic/peer:NAME")->UseRealTime()       what it is held against, in the same run
+# (registerInTurn of tests/bench/support registers both and measures them in turn, which whatever takes long should do)
 # with the goal as a counter of ours: state.counters["goal_ratio"] = 1.5 (ours at most 1.5 times the peer) or
 # state.counters["goal_ns"] = 50 (absolute, no peer needed). A figure that is no time of a loop (bytes, memory, a
 # whole process) is printed by the program as a line
@@ -26,6 +27,6 @@ function(qv_add_benchmark name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
   add_executable(${name} EXCLUDE_FROM_ALL ${sources} ${ARG_EXTRA_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
-  target_link_libraries(${name} PRIVATE qv_options ${ARG_LIBS} qv_benchmark)
+  target_link_libraries(${name} PRIVATE qv_options ${ARG_LIBS} qv_bench_support qv_benchmark)
   add_dependencies(qv_benchmarks ${name})
 endfunction()

@@ -1,9 +1,8 @@
 // A folder with 10,000 subfolders opened in the directory tree, from the click to the painted rows: against the
 // system's tree view that is given as many prepared items, opened and painted.
+#include <InTurn.h>
 #include <QVDirCtrl.h>
 #include <QVSkin.h>
-
-#include <benchmark/benchmark.h>
 
 #include <chrono>
 #include <filesystem>
@@ -18,7 +17,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int kFolders = 10000;
-constexpr int kRuns = 15; // the median counts
+constexpr int kRounds = 15;
 constexpr double kGoalRatio = 2;
 constexpr double kPatienceSeconds = 30;
 constexpr DWORD kTreeStyle = WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT;
@@ -84,30 +83,29 @@ bool WaitFor(const std::function<bool()>& condition) {
     return false;
 }
 
-void Ours(benchmark::State& state) {
+// Zero when a folder does not open.
+double Ours() {
     static const Folders folders;
     Host host;
-    for (auto _ : state) {
-        CQVComboDTBox tree;
-        tree.Create(kTreeStyle, kPlace, &host, 1);
-        tree.SetFont(QV_GetSysFont(QVFONT_UI));
-        tree.SetTreeCtrl(1);
-        if (!tree.SetDesktopFolder() || !tree.SetPathName(folders.Top().c_str()))
-            return state.SkipWithError("the tree does not reach the folder");
-        const HTREEITEM top = tree.GetSelectedItem();
-        if (!WaitFor([&] { return IsOpen(tree, top); }))
-            return state.SkipWithError("the folder was not listed");
-        tree.UpdateWindow();
-        const HTREEITEM many = tree.GetChildItem(top);
-        const auto start = Clock::now();
-        tree.Expand(many, TVE_EXPAND);
-        if (!WaitFor([&] { return IsOpen(tree, many); }))
-            return state.SkipWithError("the folder did not open");
-        tree.UpdateWindow();
-        state.SetIterationTime(SecondsSince(start));
-        tree.DestroyWindow();
-    }
-    state.counters["goal_ratio"] = kGoalRatio;
+    CQVComboDTBox tree;
+    tree.Create(kTreeStyle, kPlace, &host, 1);
+    tree.SetFont(QV_GetSysFont(QVFONT_UI));
+    tree.SetTreeCtrl(1);
+    if (!tree.SetDesktopFolder() || !tree.SetPathName(folders.Top().c_str()))
+        return 0;
+    const HTREEITEM top = tree.GetSelectedItem();
+    if (!WaitFor([&] { return IsOpen(tree, top); }))
+        return 0;
+    tree.UpdateWindow();
+    const HTREEITEM many = tree.GetChildItem(top);
+    const auto start = Clock::now();
+    tree.Expand(many, TVE_EXPAND);
+    if (!WaitFor([&] { return IsOpen(tree, many); }))
+        return 0;
+    tree.UpdateWindow();
+    const double seconds = SecondsSince(start);
+    tree.DestroyWindow();
+    return seconds;
 }
 
 HTREEITEM InsertBare(HWND tree, HTREEITEM parent, std::wstring& text) {
@@ -120,47 +118,43 @@ HTREEITEM InsertBare(HWND tree, HTREEITEM parent, std::wstring& text) {
         ::SendMessageW(tree, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&node)));
 }
 
-void Bare(benchmark::State& state) {
-    std::vector<std::wstring> texts;
-    for (int i = 0; i < kFolders; ++i)
-        texts.push_back(NameOf(i));
-    Host host;
-    for (auto _ : state) {
-        const HWND tree = ::CreateWindowExW(0, WC_TREEVIEWW, L"", kTreeStyle, kPlace.left, kPlace.top,
-                                            kPlace.right - kPlace.left, kPlace.bottom - kPlace.top, host,
-                                            nullptr, nullptr, nullptr);
-        ::SendMessageW(tree, WM_SETFONT, reinterpret_cast<WPARAM>(QV_GetSysFont(QVFONT_UI)->GetSafeHandle()),
-                       TRUE);
-        std::wstring name = L"many";
-        const HTREEITEM root = InsertBare(tree, TVI_ROOT, name);
-        ::UpdateWindow(tree);
-        WorkOffMessages();
-        const auto start = Clock::now();
-        ::SendMessageW(tree, WM_SETREDRAW, FALSE, 0);
-        for (std::wstring& text : texts)
-            InsertBare(tree, root, text);
-        ::SendMessageW(tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
-        ::SendMessageW(tree, WM_SETREDRAW, TRUE, 0);
-        ::InvalidateRect(tree, nullptr, TRUE);
-        ::UpdateWindow(tree);
-        state.SetIterationTime(SecondsSince(start));
-        ::DestroyWindow(tree);
-    }
+const std::vector<std::wstring>& Texts() {
+    static const std::vector<std::wstring> texts = [] {
+        std::vector<std::wstring> made;
+        for (int i = 0; i < kFolders; ++i)
+            made.push_back(NameOf(i));
+        return made;
+    }();
+    return texts;
 }
 
-BENCHMARK(Bare)
-    ->Name("directory tree, 10,000 subfolders opened/peer:bare tree view, prepared items")
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(kRuns)
-    ->ReportAggregatesOnly();
-BENCHMARK(Ours)
-    ->Name("directory tree, 10,000 subfolders opened/ours")
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(kRuns)
-    ->ReportAggregatesOnly();
+double Bare() {
+    Host host;
+    const HWND tree = ::CreateWindowExW(0, WC_TREEVIEWW, L"", kTreeStyle, kPlace.left, kPlace.top,
+                                        kPlace.right - kPlace.left, kPlace.bottom - kPlace.top, host, nullptr,
+                                        nullptr, nullptr);
+    ::SendMessageW(tree, WM_SETFONT, reinterpret_cast<WPARAM>(QV_GetSysFont(QVFONT_UI)->GetSafeHandle()),
+                   TRUE);
+    std::vector<std::wstring> texts = Texts();
+    std::wstring name = L"many";
+    const HTREEITEM root = InsertBare(tree, TVI_ROOT, name);
+    ::UpdateWindow(tree);
+    WorkOffMessages();
+    const auto start = Clock::now();
+    ::SendMessageW(tree, WM_SETREDRAW, FALSE, 0);
+    for (std::wstring& text : texts)
+        InsertBare(tree, root, text);
+    ::SendMessageW(tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
+    ::SendMessageW(tree, WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(tree, nullptr, TRUE);
+    ::UpdateWindow(tree);
+    const double seconds = SecondsSince(start);
+    ::DestroyWindow(tree);
+    return seconds;
+}
+
+[[maybe_unused]] const bool g_registered = registerInTurn(
+    {"directory tree, 10,000 subfolders opened", "bare tree view, prepared items", kRounds, kGoalRatio}, Bare,
+    Ours);
 
 } // namespace

@@ -1,8 +1,11 @@
 // Loading and unloading the product with what it pulls in, against an empty DLL with the same imports.
+#include "InTurn.h"
+
 #include <benchmark/benchmark.h>
 
 #include <windows.h>
 
+#include <chrono>
 #include <string>
 
 namespace {
@@ -21,35 +24,21 @@ const std::wstring& LibraryFolder() {
     return folder;
 }
 
-void LoadAndFree(benchmark::State& state, const std::wstring& file) {
+// Zero when the library cannot be loaded, or stays.
+double LoadAndFree(const std::wstring& file) {
     SetDllDirectoryW(LibraryFolder().c_str());
-    for (auto _ : state) {
-        const HMODULE library = LoadLibraryW(file.c_str());
-        if (!library || !FreeLibrary(library))
-            return state.SkipWithError("the library cannot be loaded");
-    }
-    if (GetModuleHandleW(L"AfxFrameU.dll"))
-        state.SkipWithError("the library stayed in the process");
+    const auto start = std::chrono::steady_clock::now();
+    const HMODULE library = LoadLibraryW(file.c_str());
+    if (!library || !FreeLibrary(library))
+        return 0;
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    return GetModuleHandleW(L"AfxFrameU.dll") ? 0 : taken.count();
 }
 
-void Empty(benchmark::State& state) {
-    LoadAndFree(state, ProgramFolder() + L"\\foundation_empty.dll");
-}
-
-void Ours(benchmark::State& state) {
-    LoadAndFree(state, LibraryFolder() + L"\\QVCommonWndU.dll");
-    state.counters["goal_ratio"] = kGoalRatio;
-}
-
-// The first load of a process fills the system's caches; it counts for nobody.
-void WarmUp(benchmark::State& state) {
-    Empty(state);
-    Ours(state);
-}
-
-BENCHMARK(WarmUp)->Name("load, first of the process")->UseRealTime()->Iterations(1);
-BENCHMARK(Empty)->Name("load and unload/peer:empty DLL, same imports")->UseRealTime()->Iterations(kLoads);
-BENCHMARK(Ours)->Name("load and unload/ours")->UseRealTime()->Iterations(kLoads);
+[[maybe_unused]] const bool g_registered = registerInTurn(
+    {"load and unload", "empty DLL, same imports", kLoads, kGoalRatio},
+    [] { return LoadAndFree(ProgramFolder() + L"\\foundation_empty.dll"); },
+    [] { return LoadAndFree(LibraryFolder() + L"\\QVCommonWndU.dll"); });
 
 } // namespace
 

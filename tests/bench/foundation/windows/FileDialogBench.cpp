@@ -1,7 +1,6 @@
 // From DoModal to the file dialog's initialised state: ours against the bare system dialog with an empty hook.
+#include <InTurn.h>
 #include <QVCommonWnd.h>
-
-#include <benchmark/benchmark.h>
 
 #include <chrono>
 
@@ -41,13 +40,10 @@ class TimedDialog : public CQVFileDialog {
     }
 };
 
-void Ours(benchmark::State& state) {
-    for (auto _ : state) {
-        TimedDialog dialog;
-        dialog.DoModal();
-        state.SetIterationTime(dialog.m_seconds);
-    }
-    state.counters["goal_ratio"] = kGoalRatio;
+double Ours() {
+    TimedDialog dialog;
+    dialog.DoModal();
+    return dialog.m_seconds;
 }
 
 struct BareRun {
@@ -69,34 +65,23 @@ UINT_PTR CALLBACK EmptyHook(HWND dialog, UINT message, WPARAM, LPARAM lParam) {
     return 0;
 }
 
-void Bare(benchmark::State& state) {
-    for (auto _ : state) {
-        BareRun run;
-        wchar_t file[MAX_PATH] = {};
-        OPENFILENAMEW names = {};
-        names.lStructSize = sizeof(names);
-        names.lpstrFilter = L"All\0*.*\0";
-        names.lpstrFile = file;
-        names.nMaxFile = MAX_PATH;
-        names.lpstrInitialDir = kFolder;
-        names.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
-        names.lpfnHook = EmptyHook;
-        names.lCustData = reinterpret_cast<LPARAM>(&run);
-        ::GetOpenFileNameW(&names);
-        state.SetIterationTime(run.seconds);
-    }
+double Bare() {
+    BareRun run;
+    wchar_t file[MAX_PATH] = {};
+    OPENFILENAMEW names = {};
+    names.lStructSize = sizeof(names);
+    names.lpstrFilter = L"All\0*.*\0";
+    names.lpstrFile = file;
+    names.nMaxFile = MAX_PATH;
+    names.lpstrInitialDir = kFolder;
+    names.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
+    names.lpfnHook = EmptyHook;
+    names.lCustData = reinterpret_cast<LPARAM>(&run);
+    ::GetOpenFileNameW(&names);
+    return run.seconds;
 }
 
-// The first dialog of a process loads the shell's parts; it counts for nobody.
-void WarmUp(benchmark::State& state) {
-    Bare(state);
-}
-
-BENCHMARK(WarmUp)->Name("file dialog, first of the process")->UseManualTime()->Iterations(1);
-BENCHMARK(Bare)
-    ->Name("file dialog, call to initialised/peer:bare with hook")
-    ->UseManualTime()
-    ->Iterations(kShowings);
-BENCHMARK(Ours)->Name("file dialog, call to initialised/ours")->UseManualTime()->Iterations(kShowings);
+[[maybe_unused]] const bool g_registered =
+    registerInTurn({"file dialog, call to initialised", "bare with hook", kShowings, kGoalRatio}, Bare, Ours);
 
 } // namespace
