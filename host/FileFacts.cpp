@@ -30,7 +30,7 @@ bool ReadLayeredDocument(const CString& path, FileFacts& facts) {
     return true;
 }
 
-bool ReadSound(const CString& path, FileFacts& facts) {
+bool ReadSound(const CString& path, int columns, FileFacts& facts) {
     SoundHeader sound;
     if (!ReadSoundHeader(path, sound))
         return false;
@@ -39,6 +39,7 @@ bool ReadSound(const CString& path, FileFacts& facts) {
     facts.channels = sound.channels;
     facts.samplesPerSecond = sound.samplesPerSecond;
     facts.milliseconds = sound.milliseconds;
+    facts.outline = ReadSoundOutline(path, sound, columns);
     return true;
 }
 
@@ -76,7 +77,7 @@ FileFacts ReadFileFacts(const CString& path, CSize most, HBITMAP& thumbnail) {
         return facts;
     }
     facts.bytes = static_cast<LONGLONG>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
-    if (ReadLayeredDocument(path, facts) || ReadSound(path, facts))
+    if (ReadLayeredDocument(path, facts) || ReadSound(path, static_cast<int>(most.cx), facts))
         return facts;
     thumbnail = LoadPictureFile(path, most, facts.pixels);
     facts.kind = thumbnail ? FileKind::Picture : FileKind::Other;

@@ -1,6 +1,8 @@
 // FileFacts.h: what can be said of a file in a few lines, read off its first bytes.
 #pragma once
 
+#include "SoundOutline.h"
+
 #include <afxwin.h>
 
 #include <vector>
@@ -16,6 +18,7 @@ struct FileFacts {
     int channels = 0;            // of a sound
     int samplesPerSecond = 0;
     int milliseconds = 0; // length of a sound
+    SoundOutline outline; // of a sound, empty when its samples cannot be read
     LONGLONG bytes = 0;   // size of a file; number of files of a folder
 
     // One line that is the same in every language, for the log.
@@ -25,5 +28,6 @@ struct FileFacts {
 };
 
 // Looks at what `path` names. For a picture `thumbnail` gets a bitmap that fits `most`, which the caller deletes; null
-// for everything else. What cannot be read is Missing; a broken file of a known kind is Other.
+// for everything else. A sound's outline gets as many columns as `most` is wide. What cannot be read is Missing; a
+// broken file of a known kind is Other.
 FileFacts ReadFileFacts(const CString& path, CSize most, HBITMAP& thumbnail);

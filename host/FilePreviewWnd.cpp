@@ -3,6 +3,7 @@
 #include <QVMemoDC.h>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace _qv_commonctrl;
 using namespace _qv_commonwnd;
@@ -14,16 +15,36 @@ constexpr int kHeightPx = 124;
 constexpr int kGapPx = 8;
 constexpr int kLinePx = 20;
 constexpr int kLayerLinePx = 16;
+constexpr int kLeastLanePx = 18;
 constexpr int kPictureWidth = 16; // the frame for the picture is 16 : 9
 constexpr int kPictureHeight = 9;
+constexpr int kDialogFramePx = 2;
 constexpr UINT_PTR kTimer = 1;
 constexpr UINT kWaitMs = 60;
+
+// One channel: its middle line, and in each column of pixels a stroke from its lowest to its highest sample.
+void PaintLane(CDC& dc, const CRect& lane, const std::vector<SoundOutline::Range>& ranges) {
+    const int middle = lane.CenterPoint().y;
+    const int reach = std::max(1, lane.Height() / 2 - 1);
+    const auto offset = [reach](float sample) {
+        return static_cast<int>(std::lround(sample * static_cast<float>(reach)));
+    };
+    dc.FillSolidRect(CRect(lane.left, middle, lane.right, middle + 1), QV_GetSysColor(QVCLR_GRID));
+    for (int x = 0; x < lane.Width(); ++x) {
+        const SoundOutline::Range& range =
+            ranges[static_cast<size_t>(x) * ranges.size() / static_cast<size_t>(lane.Width())];
+        dc.FillSolidRect(CRect(lane.left + x, middle - offset(range.high), lane.left + x + 1,
+                               middle - offset(range.low) + 1),
+                         QV_GetSysColor(QVCLR_ACCENT));
+    }
+}
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CFilePreviewWnd, CWnd)
     ON_MESSAGE(WM_QV_FILESELCHANGE, &CFilePreviewWnd::OnFileSelChange)
     ON_WM_TIMER()
+    ON_WM_SIZE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_DESTROY()
@@ -136,6 +157,14 @@ CRect CFilePreviewWnd::PictureFrame(const CRect& client) const {
                  CSize(height * kPictureWidth / kPictureHeight, height));
 }
 
+// With the folder panel the dialog docks the window down to its lowest line, where its own frame is: that much of the
+// window is cut away.
+void CFilePreviewWnd::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+    const int height = std::max(0, cy - QV_ScalePx(m_hWnd, kDialogFramePx));
+    ::SetWindowRgn(m_hWnd, ::CreateRectRgn(0, 0, cx, height), TRUE);
+}
+
 BOOL CFilePreviewWnd::OnEraseBkgnd(CDC*) {
     return TRUE;
 }
@@ -146,13 +175,27 @@ void CFilePreviewWnd::OnPaint() {
     GetClientRect(&client);
     CQVMemoDC dc(&paint, client);
     dc.FillSolidRect(client, QV_GetSysColor(QVCLR_WINDOW));
+    const int gap = QV_ScalePx(m_hWnd, kGapPx);
     const CRect frame = PictureFrame(client);
+    int left = frame.left;
+    if (HasPicture()) {
+        PaintInFrame(dc, frame);
+        left = frame.right + gap;
+    }
+    PaintLines(dc, CRect(left, frame.top, client.right - gap, frame.bottom));
+}
+
+// Whether there is more to see than lines of text.
+bool CFilePreviewWnd::HasPicture() const {
+    return m_thumbnail || !m_facts.layers.empty() || !m_facts.outline.IsEmpty();
+}
+
+void CFilePreviewWnd::PaintInFrame(CDC& dc, const CRect& frame) const {
     dc.FillSolidRect(frame, QV_GetSysColor(QVCLR_LIST));
     PaintPicture(dc, frame);
     PaintLayers(dc, frame);
+    PaintOutline(dc, frame);
     dc.Draw3dRect(frame, QV_GetSysColor(QVCLR_LIST_FRAME), QV_GetSysColor(QVCLR_LIST_FRAME));
-    PaintLines(dc, CRect(frame.right + QV_ScalePx(m_hWnd, kGapPx), frame.top,
-                         client.right - QV_ScalePx(m_hWnd, kGapPx), frame.bottom));
 }
 
 void CFilePreviewWnd::PaintPicture(CDC& dc, const CRect& frame) const {
@@ -168,22 +211,44 @@ void CFilePreviewWnd::PaintPicture(CDC& dc, const CRect& frame) const {
     ::SelectObject(source.GetSafeHdc(), old);
 }
 
-// A layered document shows its layers, the top one first, as far as there is room.
+// A layered document shows its layers, the top one first; the last row says how many more there are when there is no
+// room for all.
 void CFilePreviewWnd::PaintLayers(CDC& dc, const CRect& frame) const {
-    if (m_facts.kind != FileKind::LayeredDocument)
-        return;
     const int gap = QV_ScalePx(m_hWnd, kGapPx);
     const int step = QV_ScalePx(m_hWnd, kLayerLinePx);
+    const int count = static_cast<int>(m_facts.layers.size());
+    const int rows = std::max(1, (frame.Height() - gap / 2) / step);
+    const int named = count <= rows ? count : rows - 1;
     CFont* old = dc.SelectObject(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(m_hWnd)));
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT_LIST));
     CRect row(frame.left + gap, frame.top + gap / 2, frame.right - gap, frame.top + gap / 2 + step);
-    for (auto name = m_facts.layers.rbegin(); name != m_facts.layers.rend() && row.bottom <= frame.bottom;
-         ++name) {
-        dc.DrawText(*name, row, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
-        row.OffsetRect(0, step);
+    constexpr UINT oneLine = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX;
+    dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));
+    for (int i = 0; i < named; ++i, row.OffsetRect(0, step))
+        dc.DrawText(m_facts.layers[static_cast<size_t>(count - 1 - i)], row, oneLine);
+    if (named < count) {
+        CString more;
+        more.Format(QV_LoadSysString(L"IDS_GALLERY_PREVIEW_MORE"), count - named);
+        dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT_LIST));
+        dc.DrawText(more, row, oneLine);
     }
     dc.SelectObject(old);
+}
+
+// A sound shows its outline, each channel in a lane of its own as far as there is room.
+void CFilePreviewWnd::PaintOutline(CDC& dc, const CRect& frame) const {
+    const auto& channels = m_facts.outline.channels;
+    if (channels.empty())
+        return;
+    CRect inner(frame);
+    inner.DeflateRect(QV_ScalePx(m_hWnd, kGapPx) / 2, QV_ScalePx(m_hWnd, kGapPx) / 2);
+    const int room = std::max(1, inner.Height() / QV_ScalePx(m_hWnd, kLeastLanePx));
+    const int lanes = std::min(room, static_cast<int>(channels.size()));
+    for (int lane = 0; lane < lanes; ++lane)
+        PaintLane(dc,
+                  CRect(inner.left, inner.top + inner.Height() * lane / lanes, inner.right,
+                        inner.top + inner.Height() * (lane + 1) / lanes),
+                  channels[static_cast<size_t>(lane)]);
 }
 
 void CFilePreviewWnd::PaintLines(CDC& dc, const CRect& area) const {

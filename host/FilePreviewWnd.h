@@ -17,6 +17,7 @@ class CFilePreviewWnd : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
   protected:
     afx_msg LRESULT OnFileSelChange(WPARAM what, LPARAM detail);
     afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnDestroy();
@@ -30,8 +31,11 @@ class CFilePreviewWnd : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     CString Say() const;
     void TakeLines();
     CRect PictureFrame(const CRect& client) const;
+    bool HasPicture() const;
+    void PaintInFrame(CDC& dc, const CRect& frame) const;
     void PaintPicture(CDC& dc, const CRect& frame) const;
     void PaintLayers(CDC& dc, const CRect& frame) const;
+    void PaintOutline(CDC& dc, const CRect& frame) const;
     void PaintLines(CDC& dc, const CRect& area) const;
 
     IGalleryContext& m_context;

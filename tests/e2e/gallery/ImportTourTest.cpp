@@ -1,4 +1,5 @@
 // The tour through the open dialog's further forms: preview, folder import, layers of a document.
+#include "SampleFiles.h"
 #include "Tour.h"
 
 #include "builder/PsdBuilder.h"
@@ -22,21 +23,33 @@ constexpr int kPanelHeightPx = 60;
 constexpr int kRushes = 0;
 constexpr int kFilm = 1;   // among the pictures
 constexpr int kSunset = 3; // behind harbour.png
-constexpr int kTone = 1;   // among the sounds
+constexpr int kTitles = 4;
+constexpr int kTone = 1; // among the sounds
+constexpr int kVoice = 2;
 
 class ImportTour : public Tour {
   protected:
     void SetUp() override {
         Tour::SetUp();
+        writeDocument(L"film.psd", {u"Background", u"\u4EBA\u7269", u"Title", u"Logo", u"Curves"});
+        std::vector<std::u16string> titles;
+        for (char16_t letter = u'A'; letter <= u'L'; ++letter)
+            titles.push_back(std::u16string(u"Scene ") + letter);
+        writeDocument(L"titles.psd", titles);
+        writeSound(sample(L"voice.wav"), 2, 48000, 2.5, Loudness::Swelling);
+        session().samples().file(L"rushes\\readme.txt", "text");
+        session().samples().file(L"rushes\\take2.png", "no picture");
+    }
+
+    // A document of 64 x 48 pixels with these layers, the bottom one first, among the samples.
+    void writeDocument(const std::wstring& name, const std::vector<std::u16string>& layers) {
         psdtest::Document document;
         document.widthPx = 64;
         document.heightPx = 48;
-        for (const char16_t* name : {u"Background", u"\u4EBA\u7269", u"Title", u"Logo", u"Curves"})
-            document.layers.push_back(psdtest::layer(name));
+        for (const std::u16string& layer : layers)
+            document.layers.push_back(psdtest::layer(layer));
         const psdtest::Bytes bytes = psdtest::build(document).bytes;
-        session().samples().file(L"film.psd", std::string(bytes.begin(), bytes.end()));
-        session().samples().file(L"rushes\\readme.txt", "text");
-        session().samples().file(L"rushes\\take2.png", "no picture");
+        session().samples().file(name, std::string(bytes.begin(), bytes.end()));
     }
 
     // The shell's list of the running dialog.
@@ -176,10 +189,14 @@ TEST_P(ImportTour, PreviewFollowsTheSelection) {
     select(dialog, kFilm);
     waitPreview(L"document film.psd: 64x48, 8 bits, 5 layers");
     session().picture(dialog, L"open-preview-layers");
+    select(dialog, kTitles);
+    waitPreview(L"document titles.psd: 64x48, 8 bits, 12 layers");
+    session().picture(dialog, L"open-preview-many-layers");
     select(dialog, kRushes);
     waitPreview(L"folder rushes: 3 files");
+    session().picture(dialog, L"open-preview-folder");
     user().press(VK_END, Shift);
-    waitPreview(L"several: 4");
+    waitPreview(L"several: 5");
     RECT client = {};
     ::GetClientRect(list(dialog), &client);
     user().clickAt(list(dialog), {client.right - 6, client.bottom - 6});
@@ -190,6 +207,8 @@ TEST_P(ImportTour, PreviewFollowsTheSelection) {
     user().waitFor("the next type", [&] { return session().values(L"filetype").back() == L"2"; });
     select(dialog, kTone);
     waitPreview(L"sound tone.wav: 1000 ms, 48000 Hz, 2 channels, 16 bits");
+    select(dialog, kVoice);
+    waitPreview(L"sound voice.wav: 2500 ms, 48000 Hz, 2 channels, 16 bits");
     session().picture(dialog, L"open-preview-sound");
     user().click(dialog, IDCANCEL);
     EXPECT_EQ(L"CQVFileDialog=IDCANCEL", session().waitClosed(L"open-preview").back());

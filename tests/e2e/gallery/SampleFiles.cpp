@@ -37,6 +37,12 @@ HBITMAP makeBitmap(int width, int height) {
     return bitmap;
 }
 
+// The level of a swelling sound at a place from 0 to 1 of its length, between nothing and more than twice the steady one.
+double swell(int channel, double place) {
+    const double wave = std::sin(std::numbers::pi * (3 + 2 * channel) * place);
+    return 2.5 * wave * wave * (0.35 + 0.65 * std::sin(std::numbers::pi * place));
+}
+
 } // namespace
 
 void writePicture(const std::wstring& path, int widthPx, int heightPx) {
@@ -45,13 +51,16 @@ void writePicture(const std::wstring& path, int widthPx, int heightPx) {
     ::DeleteObject(bitmap);
 }
 
-void writeSound(const std::wstring& path, int channels, int samplesPerSecond, double seconds) {
+void writeSound(const std::wstring& path, int channels, int samplesPerSecond, double seconds,
+                Loudness loudness) {
     const int frames = static_cast<int>(samplesPerSecond * seconds);
     std::string data;
     for (int i = 0; i < frames; ++i) {
         for (int channel = 0; channel < channels; ++channel) {
             const double angle = 2 * std::numbers::pi * 440.0 * (channel + 1) * i / samplesPerSecond;
-            append(data, static_cast<std::uint32_t>(static_cast<std::int16_t>(12000 * std::sin(angle))), 2);
+            const double level =
+                12000 * (loudness == Loudness::Steady ? 1.0 : swell(channel, 1.0 * i / frames));
+            append(data, static_cast<std::uint32_t>(static_cast<std::int16_t>(level * std::sin(angle))), 2);
         }
     }
     const auto blockAlign = static_cast<std::uint32_t>(channels * 2);
