@@ -35,6 +35,8 @@ class ByteCursor {
         m_pos = 0;
     }
 
+    bool isHeld() const noexcept { return m_held != nullptr; }
+
     // The next count bytes without moving, valid until the window is used again; null when they are not
     // there.
     const std::uint8_t* peek(std::size_t count) noexcept {

@@ -56,7 +56,7 @@ bool skipStretch(ByteCursor& cursor) noexcept {
 bool LayerRecord::read(ByteCursor& section) {
     m_kind = LayerKind::Layer;
     m_name.clear();
-    m_legacyLength = 0;
+    m_legacy = {};
 
     const std::uint8_t* head = section.take(kHeadBytes);
     if (head == nullptr)
@@ -92,12 +92,11 @@ bool LayerRecord::readExtra(ByteCursor& extra) {
         }
     }
     if (!hasUnicodeName)
-        decodeLegacyName(m_decoder, std::span(m_legacy).first(m_legacyLength), m_name);
+        decodeLegacyName(m_decoder, m_legacy, m_name);
     return true;
 }
 
-// The bytes are copied: the blocks that follow move the window on, and only they tell whether the name is
-// needed.
+// The bytes are copied when the blocks that follow may move the window on: only they tell whether the name is needed.
 bool LayerRecord::readLegacyBytes(ByteCursor& extra) noexcept {
     std::uint8_t length = 0;
     if (extra.left() == 0)
@@ -107,8 +106,11 @@ bool LayerRecord::readLegacyBytes(ByteCursor& extra) noexcept {
     const std::uint8_t* bytes = extra.take(length);
     if (bytes == nullptr)
         return false;
-    std::memcpy(m_legacy.data(), bytes, length);
-    m_legacyLength = length;
+    if (!extra.isHeld()) {
+        std::memcpy(m_legacyCopy.data(), bytes, length);
+        bytes = m_legacyCopy.data();
+    }
+    m_legacy = {bytes, length};
     return true;
 }
 

@@ -38,8 +38,8 @@ class LayerRecord {
     std::uint32_t& m_blockBudget;
     LayerKind m_kind = LayerKind::Layer;
     std::u16string m_name;
-    std::array<std::uint8_t, 255> m_legacy{};
-    std::size_t m_legacyLength = 0;
+    std::span<const std::uint8_t> m_legacy; // in the window's bytes, or in the copy
+    std::array<std::uint8_t, 255> m_legacyCopy{};
 };
 
 } // namespace _qv_commonclass::psd
