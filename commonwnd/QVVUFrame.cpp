@@ -154,26 +154,33 @@ void CQVVUFrame::ResizeToFace() {
 void CQVVUFrame::SetUVValue(int nIn, int* pIn, int nTrack, int* pTrack, int nOut, int* pOut, int, int) {
     if (nIn != m_nInCount || nTrack != m_nTrackCount || nOut != m_nOutCount)
         SetUVFace(nIn, nTrack, nOut);
-    ShowLevels(0, nIn, pIn);
-    ShowLevels(kFirstOutput, nOut, pOut);
-    ShowLevels(kFirstTrack, nTrack, pTrack);
+    ShowLevels(nIn, pIn, nTrack, pTrack, nOut, pOut);
 }
 
-void CQVVUFrame::ShowLevels(int firstSlot, int count, const int* levels) {
-    if (!levels)
-        return;
-    const int end = std::min(count, kSlots - firstSlot);
-    for (int i = 0; i < end; ++i) {
-        if (m_pMeter[firstSlot + i])
-            m_pMeter[firstSlot + i]->SetPos(levels[i]);
+// All meters in one round, which paints many of them for little more than one.
+void CQVVUFrame::ShowLevels(int nIn, const int* pIn, int nTrack, const int* pTrack, int nOut,
+                            const int* pOut) {
+    struct Group {
+        int firstSlot;
+        int count;
+        const int* levels; // null: left as they are
+    };
+    const Group groups[] = {{0, nIn, pIn}, {kFirstOutput, nOut, pOut}, {kFirstTrack, nTrack, pTrack}};
+    CQVVUTableCtrl* meters[std::size(groups) * kSlots];
+    int levels[std::size(groups) * kSlots];
+    int meterCount = 0;
+    for (const Group& group : groups) {
+        const int count = group.levels ? std::clamp(group.count, 0, kSlots - group.firstSlot) : 0;
+        std::copy_n(m_pMeter + group.firstSlot, count, meters + meterCount);
+        std::copy_n(group.levels, count, levels + meterCount);
+        meterCount += count;
     }
+    CQVVUTableCtrl::SetPos(meters, levels, meterCount);
 }
 
 void CQVVUFrame::ClearUVValue() {
     const int none[kSlots] = {};
-    ShowLevels(0, m_nInCount, none);
-    ShowLevels(kFirstOutput, m_nOutCount, none);
-    ShowLevels(kFirstTrack, m_nTrackCount, none);
+    ShowLevels(m_nInCount, none, m_nTrackCount, none, m_nOutCount, none);
 }
 
 void CQVVUFrame::SetAutoClose(BOOL bAutoClose) {
@@ -207,10 +214,9 @@ void CQVVUFrame::OnTimer(UINT_PTR nIDEvent) {
         CWnd::OnTimer(nIDEvent);
         return;
     }
-    for (CQVVUTableCtrl* meter : m_pMeter) {
-        if (meter)
-            meter->SetPos(rand() % kDemoLevels);
-    }
+    int levels[kSlots];
+    std::generate(std::begin(levels), std::end(levels), [] { return rand() % kDemoLevels; });
+    CQVVUTableCtrl::SetPos(m_pMeter, levels, kSlots);
 }
 
 void CQVVUFrame::OnClose() {

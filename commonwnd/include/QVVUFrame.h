@@ -62,7 +62,7 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
     void ShowSlot(int slot, bool show);
     void PlaceGroup(const struct VUGroup& group, int firstSlot);
     void ResizeToFace();
-    void ShowLevels(int firstSlot, int count, const int* levels);
+    void ShowLevels(int nIn, const int* pIn, int nTrack, const int* pTrack, int nOut, const int* pOut);
     void PaintLine(CDC* pDC, int* pMarks, int nMarks, CRect rect);
     void PaintPanels(CDC& dc, const CRect& client);
     void PaintLabels(CDC& dc);

@@ -12,7 +12,7 @@ struct MeterClass {
     static CQVControlClass& ControlClass();
 };
 
-// A DC of its own, because a meter is painted many times a second without WM_PAINT.
+// A DC of its own, because a host may set a single meter many times a second, which is painted without WM_PAINT.
 CQVControlClass g_class(L"QVVUTableCtrl", nullptr, CS_OWNDC | CS_HREDRAW | CS_VREDRAW, 0,
                         &ControlProc<MeterClass>, [] { return static_cast<CWnd*>(new CQVVUTableCtrl); });
 
@@ -61,9 +61,23 @@ void CQVVUTableCtrl::PostNcDestroy() {
 }
 
 void CQVVUTableCtrl::SetPos(int nPos) {
-    m_pImpl->SetLevel(m_hWnd, nPos, ::GetTickCount64());
-    if (m_hWnd && !m_pImpl->State().IsAtRest())
-        CQVMeterClock::Get().Add(this);
+    CQVVUTableCtrl* const self = this;
+    SetPos(&self, &nPos, 1);
+}
+
+void CQVVUTableCtrl::SetPos(CQVVUTableCtrl* const* ppMeters, const int* pPos, int nCount) {
+    if (!ppMeters || !pPos)
+        return;
+    const ULONGLONG now = ::GetTickCount64();
+    CQVMeterPainter painter(nCount > 1 ? QVMeterRound::ManyMeters : QVMeterRound::OneMeter);
+    for (int i = 0; i < nCount; ++i) {
+        CQVVUTableCtrl* const meter = ppMeters[i];
+        if (!meter)
+            continue;
+        meter->m_pImpl->SetLevel(meter->m_hWnd, pPos[i], now, painter);
+        if (meter->m_hWnd && !meter->m_pImpl->State().IsAtRest())
+            CQVMeterClock::Get().Add(meter);
+    }
 }
 
 int CQVVUTableCtrl::GetPos() const {
@@ -79,7 +93,8 @@ BOOL CQVVUTableCtrl::IsClipped() const {
 }
 
 void CQVVUTableCtrl::ResetPeak() {
-    m_pImpl->Reset(m_hWnd);
+    CQVMeterPainter painter(QVMeterRound::OneMeter);
+    m_pImpl->Reset(m_hWnd, painter);
 }
 
 void CQVVUTableCtrl::OnSkinChange(UINT reason, HWND wnd) {

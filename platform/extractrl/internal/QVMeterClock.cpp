@@ -48,8 +48,9 @@ void CALLBACK CQVMeterClock::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 
 void CQVMeterClock::Tick() {
     const ULONGLONG now = ::GetTickCount64();
+    CQVMeterPainter painter(QVMeterRound::ManyMeters);
     std::erase_if(m_meters,
-                  [now](CQVVUTableCtrl* meter) { return !meter->m_pImpl->Tick(meter->m_hWnd, now); });
+                  [&](CQVVUTableCtrl* meter) { return !meter->m_pImpl->Tick(meter->m_hWnd, now, painter); });
     StopWhenIdle();
 }
 

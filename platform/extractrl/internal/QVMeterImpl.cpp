@@ -9,22 +9,6 @@ namespace {
 // A meter that the host keeps setting lets time pass by that; the clock would only paint it twice as often.
 constexpr ULONGLONG kFedLatelyMs = 100;
 
-class WindowDC {
-  public:
-    explicit WindowDC(HWND wnd) : m_wnd(wnd), m_dc(::GetDC(wnd)) {}
-    WindowDC(const WindowDC&) = delete;
-    WindowDC& operator=(const WindowDC&) = delete;
-    ~WindowDC() {
-        if (m_dc)
-            ::ReleaseDC(m_wnd, m_dc);
-    }
-    HDC Handle() const { return m_dc; }
-
-  private:
-    HWND m_wnd;
-    HDC m_dc;
-};
-
 } // namespace
 
 void CQVMeterImpl::Resize(CSize size) {
@@ -40,36 +24,34 @@ const CQVMeterStrip& CQVMeterImpl::Strip(HWND wnd) {
     return *m_strip;
 }
 
-void CQVMeterImpl::SetLevel(HWND wnd, int level, ULONGLONG nowMs) {
+void CQVMeterImpl::SetLevel(HWND wnd, int level, ULONGLONG nowMs, CQVMeterPainter& painter) {
     m_lastSetMs = nowMs;
     m_state.SetLevel(level, nowMs);
-    Show(wnd);
+    Show(wnd, painter);
 }
 
-void CQVMeterImpl::Reset(HWND wnd) {
+void CQVMeterImpl::Reset(HWND wnd, CQVMeterPainter& painter) {
     m_state.Reset();
-    Show(wnd);
+    Show(wnd, painter);
 }
 
-bool CQVMeterImpl::Tick(HWND wnd, ULONGLONG nowMs) {
+bool CQVMeterImpl::Tick(HWND wnd, ULONGLONG nowMs, CQVMeterPainter& painter) {
     if (nowMs - m_lastSetMs >= kFedLatelyMs) {
         m_state.Advance(nowMs);
-        Show(wnd);
+        Show(wnd, painter);
     }
     return !m_state.IsAtRest();
 }
 
-void CQVMeterImpl::Show(HWND wnd) {
+void CQVMeterImpl::Show(HWND wnd, CQVMeterPainter& painter) {
     if (!wnd || m_size.cx <= 0 || m_size.cy <= 0)
         return;
     const CQVMeterStrip& strip = Strip(wnd);
     const QVMeterPicture picture = QV_GetMeterPicture(m_state, m_size.cy, strip.Marks());
-    const QVRowRange changed = QV_ChangedRows(m_shown, picture);
+    const QVMeterRuns changed = QV_ChangedRuns(m_shown, picture);
     m_shown = picture;
-    if (changed.IsEmpty())
-        return;
-    const WindowDC dc(wnd);
-    strip.Draw(dc.Handle(), picture, changed);
+    if (!changed.IsEmpty())
+        painter.Paint(wnd, strip, changed);
 }
 
 void CQVMeterImpl::Paint(HWND wnd, HDC dc, const RECT& area) {
@@ -77,7 +59,7 @@ void CQVMeterImpl::Paint(HWND wnd, HDC dc, const RECT& area) {
         return;
     const CQVMeterStrip& strip = Strip(wnd);
     m_shown = QV_GetMeterPicture(m_state, m_size.cy, strip.Marks());
-    strip.Draw(dc, m_shown, {area.top, area.bottom});
+    strip.Draw(dc, {0, 0}, QV_MeterRuns(m_shown, area.top, area.bottom));
 }
 
 } // namespace _qv_extractrl

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "QVVUTableCtrl.h"
+#include "internal/QVMeterPainter.h"
 #include "internal/QVMeterStrip.h"
 #include "rules/QVMeterBallistics.h"
 
@@ -18,19 +19,18 @@ class CQVMeterImpl {
     // Skin or DPI have changed.
     void ForgetStrip() { m_strip.reset(); }
 
-    // Each changes the state and paints the rows that look different, straight to the window (null: no
-    // window).
-    void SetLevel(HWND wnd, int level, ULONGLONG nowMs);
-    void Reset(HWND wnd);
+    // Each changes the state and has the painter paint the rows that look different (null: no window).
+    void SetLevel(HWND wnd, int level, ULONGLONG nowMs, CQVMeterPainter& painter);
+    void Reset(HWND wnd, CQVMeterPainter& painter);
     // Lets time pass. False when the marks have come to rest.
-    bool Tick(HWND wnd, ULONGLONG nowMs);
+    bool Tick(HWND wnd, ULONGLONG nowMs, CQVMeterPainter& painter);
 
     // Paints rows to the DC of WM_PAINT.
     void Paint(HWND wnd, HDC dc, const RECT& area);
 
   private:
     const CQVMeterStrip& Strip(HWND wnd);
-    void Show(HWND wnd);
+    void Show(HWND wnd, CQVMeterPainter& painter);
 
     QVMeterBallistics m_state;
     QVMeterPicture m_shown;

@@ -5,7 +5,7 @@
 #include <QVSkin.h>
 
 #include <algorithm>
-#include <cmath>
+#include <vector>
 
 namespace _qv_extractrl {
 
@@ -23,6 +23,8 @@ constexpr double kOverFromDB = -3.0;
 constexpr int kSafeStepPx96 = 6;
 constexpr int kHighStepPx96 = 4;
 constexpr int kOverStepPx96 = 3;
+
+constexpr int kColumns = static_cast<int>(QVMeterRow::ClipMark) + 1;
 
 constexpr int kPartsOfWhole = 256;
 constexpr int kUnlitShare = 34; // how much of its colour an unlit row shows on the well
@@ -71,17 +73,33 @@ BITMAPINFO TopDownBitmap(int width, int height) {
 
 CQVMeterStrip::CQVMeterStrip(const QVMeterStripKey& key)
     : m_key(key), m_marks{QV_ScaleForDpi(kPeakMarkPx96, key.dpi), QV_ScaleForDpi(kClipMarkPx96, key.dpi)} {
-    const auto width = static_cast<size_t>(key.width);
-    const size_t count = width * static_cast<size_t>(key.height);
-    m_lit.resize(count);
-    m_unlit.resize(count);
-    m_peak.assign(width, PixelOf(QV_GetSysColor(QVCLR_METER_PEAK)));
-    m_clip.assign(width, PixelOf(QV_GetSysColor(QVCLR_METER_OVER)));
-    FillScale();
+    const BITMAPINFO info = TopDownBitmap(kColumns * key.width, key.height);
+    void* pixels = nullptr;
+    m_columns = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    m_memory = ::CreateCompatibleDC(nullptr);
+    if (!m_columns || !m_memory)
+        return; // out of drawing objects: nothing will be copied
+    m_former = ::SelectObject(m_memory, m_columns);
+    Fill(static_cast<DWORD*>(pixels));
+    ::GdiFlush();
 }
 
-void CQVMeterStrip::FillScale() {
+CQVMeterStrip::~CQVMeterStrip() {
+    if (m_former)
+        ::SelectObject(m_memory, m_former);
+    if (m_memory)
+        ::DeleteDC(m_memory);
+    if (m_columns)
+        ::DeleteObject(m_columns);
+}
+
+void CQVMeterStrip::Fill(DWORD* pixels) const {
     const COLORREF well = QV_GetSysColor(QVCLR_METER_WELL);
+    const DWORD peak = PixelOf(QV_GetSysColor(QVCLR_METER_PEAK));
+    const DWORD clip = PixelOf(QV_GetSysColor(QVCLR_METER_OVER));
+    const auto column = [this](DWORD* row, QVMeterRow state) {
+        return row + static_cast<int>(state) * m_key.width;
+    };
     int stepBegin = 0;
     for (int fromFoot = 0; fromFoot < m_key.height; ++fromFoot) {
         const Zone zone = ZoneOfPercent(100.0 * fromFoot / m_key.height);
@@ -92,45 +110,21 @@ void CQVMeterStrip::FillScale() {
         const COLORREF color = QV_GetSysColor(zone.colorIndex);
         const COLORREF lit = isGap ? Mix(color, well, kGapShare) : color;
         const COLORREF unlit = isGap ? well : Mix(color, well, kUnlitShare);
-        const auto begin =
-            static_cast<size_t>(m_key.height - 1 - fromFoot) * static_cast<size_t>(m_key.width);
-        const auto width = static_cast<size_t>(m_key.width);
-        std::fill_n(m_lit.begin() + static_cast<ptrdiff_t>(begin), width, PixelOf(lit));
-        std::fill_n(m_unlit.begin() + static_cast<ptrdiff_t>(begin), width, PixelOf(unlit));
-        m_lit[begin] = m_lit[begin + width - 1] = PixelOf(Mix(lit, well, kEdgeShare));
+        DWORD* const row =
+            pixels + static_cast<ptrdiff_t>(m_key.height - 1 - fromFoot) * kColumns * m_key.width;
+        std::fill_n(column(row, QVMeterRow::Unlit), m_key.width, PixelOf(unlit));
+        DWORD* const litRow = column(row, QVMeterRow::Lit);
+        std::fill_n(litRow, m_key.width, PixelOf(lit));
+        litRow[0] = litRow[m_key.width - 1] = PixelOf(Mix(lit, well, kEdgeShare));
+        std::fill_n(column(row, QVMeterRow::PeakMark), m_key.width, peak);
+        std::fill_n(column(row, QVMeterRow::ClipMark), m_key.width, clip);
     }
 }
 
-const DWORD* CQVMeterStrip::RowPixels(QVMeterRow state, int row) const {
-    const size_t begin = static_cast<size_t>(row) * static_cast<size_t>(m_key.width);
-    switch (state) {
-    case QVMeterRow::Lit:
-        return &m_lit[begin];
-    case QVMeterRow::PeakMark:
-        return m_peak.data();
-    case QVMeterRow::ClipMark:
-        return m_clip.data();
-    default:
-        return &m_unlit[begin];
-    }
-}
-
-void CQVMeterStrip::Draw(HDC dc, const QVMeterPicture& picture, QVRowRange range) const {
-    range.from = std::max(range.from, 0);
-    range.to = std::min(range.to, m_key.height);
-    if (range.IsEmpty() || m_key.width <= 0)
-        return;
-    // Composed in memory first, so that the window gets one copy however many kinds of rows there are.
-    static Pixels composed;
-    const auto width = static_cast<size_t>(m_key.width);
-    const int rows = range.to - range.from;
-    composed.resize(width * static_cast<size_t>(rows));
-    DWORD* target = composed.data();
-    for (int row = range.from; row < range.to; ++row, target += width)
-        std::copy_n(RowPixels(picture.RowAt(row), row), width, target);
-    const BITMAPINFO info = TopDownBitmap(m_key.width, rows);
-    ::SetDIBitsToDevice(dc, 0, range.from, static_cast<DWORD>(m_key.width), static_cast<DWORD>(rows), 0, 0, 0,
-                        static_cast<UINT>(rows), composed.data(), &info, DIB_RGB_COLORS);
+void CQVMeterStrip::Draw(HDC dc, POINT at, const QVMeterRuns& runs) const {
+    for (const QVMeterRun& run : runs)
+        ::BitBlt(dc, at.x, at.y + run.from, m_key.width, run.to - run.from, m_memory,
+                 static_cast<int>(run.state) * m_key.width, run.from, SRCCOPY);
 }
 
 std::shared_ptr<const CQVMeterStrip> CQVMeterStrip::Get(const QVMeterStripKey& key) {

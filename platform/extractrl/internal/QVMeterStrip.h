@@ -6,7 +6,6 @@
 #include <afxwin.h>
 
 #include <memory>
-#include <vector>
 
 namespace _qv_extractrl {
 
@@ -22,29 +21,28 @@ struct QVMeterStripKey {
 class CQVMeterStrip {
   public:
     explicit CQVMeterStrip(const QVMeterStripKey& key);
+    ~CQVMeterStrip();
+    CQVMeterStrip(const CQVMeterStrip&) = delete;
+    CQVMeterStrip& operator=(const CQVMeterStrip&) = delete;
 
     const QVMeterStripKey& Key() const { return m_key; }
     const QVMeterMarks& Marks() const { return m_marks; }
 
-    // Copies rows [range.from, range.to) of a meter's picture to the same rows of a device context. Rows
-    // outside the picture are left out.
-    void Draw(HDC dc, const QVMeterPicture& picture, QVRowRange range) const;
+    // Copies rows of a meter whose top-left corner is at a point of the device context.
+    void Draw(HDC dc, POINT at, const QVMeterRuns& runs) const;
 
     // The strip of a key; kept as long as a meter uses it.
     static std::shared_ptr<const CQVMeterStrip> Get(const QVMeterStripKey& key);
 
   private:
-    using Pixels = std::vector<DWORD>;
-
-    void FillScale();
-    const DWORD* RowPixels(QVMeterRow state, int row) const;
+    void Fill(DWORD* pixels) const;
 
     QVMeterStripKey m_key;
     QVMeterMarks m_marks;
-    Pixels m_lit;
-    Pixels m_unlit;
-    Pixels m_peak; // one row
-    Pixels m_clip; // one row
+    // A column as wide as a meter for each state of a row; any row of any meter is a row of it.
+    HBITMAP m_columns = nullptr;
+    HDC m_memory = nullptr; // with the columns selected
+    HGDIOBJ m_former = nullptr;
 };
 
 } // namespace _qv_extractrl

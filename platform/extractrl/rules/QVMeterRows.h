@@ -3,6 +3,8 @@
 
 #include "QVMeterBallistics.h"
 
+#include <array>
+
 namespace _qv_extractrl {
 
 // What a row shows. The scale colour itself comes from the row's place.
@@ -30,13 +32,31 @@ int QV_MeterRowOfLevel(int level, int height);
 
 QVMeterPicture QV_GetMeterPicture(const QVMeterBallistics& state, int height, const QVMeterMarks& marks);
 
-// The rows [from, to) outside of which two pictures of the same height are the same. Empty (0, 0) when
-// nothing differs; all rows when the heights differ.
-struct QVRowRange {
+// Rows [from, to) that show the same.
+struct QVMeterRun {
     int from = 0;
     int to = 0;
-    bool IsEmpty() const { return from >= to; }
+    QVMeterRow state = QVMeterRow::Unlit;
 };
-QVRowRange QV_ChangedRows(const QVMeterPicture& before, const QVMeterPicture& after);
+
+// A few runs, from the top downwards, none overlapping another.
+class QVMeterRuns {
+  public:
+    void Add(const QVMeterRun& run); // joins the last one when it goes on with the same state
+    bool IsEmpty() const { return m_count == 0; }
+    const QVMeterRun* begin() const { return m_runs.data(); }
+    const QVMeterRun* end() const { return m_runs.data() + m_count; }
+
+  private:
+    static constexpr int kMost = 9; // between the edges of two pictures
+    std::array<QVMeterRun, kMost> m_runs;
+    int m_count = 0;
+};
+
+// The rows of the second picture that look different from those of the first: all of them when the heights differ.
+QVMeterRuns QV_ChangedRuns(const QVMeterPicture& before, const QVMeterPicture& after);
+
+// The rows [from, to) of a picture; rows outside it are left out.
+QVMeterRuns QV_MeterRuns(const QVMeterPicture& picture, int from, int to);
 
 } // namespace _qv_extractrl

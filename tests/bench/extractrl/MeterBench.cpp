@@ -3,7 +3,7 @@
 // what cannot be undercut: copying the changed pixels from memory to the window.
 #include "ProcessorTime.h"
 
-#include <QVExtraCtrl.h>
+#include <QVCommonWnd.h>
 
 #include <benchmark/benchmark.h>
 
@@ -12,18 +12,23 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
+#include <limits>
 #include <vector>
 
+using namespace _qv_commonwnd;
 using namespace _qv_extractrl;
 
 namespace {
 
-constexpr int kMeters = 107;
+constexpr int kInputs = 4;
+constexpr int kTracks = 95;
+constexpr int kOutputs = 8;
+constexpr int kMeters = kInputs + kTracks + kOutputs;
 constexpr int kPitchPx = 22;
 constexpr int kWidthPx = 15;
 constexpr int kHeightPx = 206;
-constexpr int kFrames = 1500;
+constexpr int kFrames = 500;
+constexpr int kRounds = 6;
 constexpr int kPeerFrames = 40; // a frame of progress bars takes a hundred times as long
 constexpr double kGoalAgainstBars = 1.0 / 50.0;
 constexpr double kGoalAgainstCopy = 2.0;
@@ -51,24 +56,28 @@ class Face : public CWnd {
     ~Face() override { DestroyWindow(); }
 };
 
+// The frame window of the product with its largest face: 4 inputs, 95 tracks and 8 outputs.
 class MeterFace {
   public:
     MeterFace() {
-        for (int i = 0; i < kMeters; ++i) {
-            m_meters.push_back(std::make_unique<CQVVUTableCtrl>());
-            m_meters.back()->Create(WS_CHILD | WS_VISIBLE, PlaceOf(i), &m_face, static_cast<UINT>(1001 + i));
-        }
+        m_frame.CreateEx(WS_EX_TOOLWINDOW, AfxRegisterWndClass(0), L"Meters", WS_POPUP, 0, 0, 2400,
+                         kHeightPx + kAroundMeterPx, nullptr, nullptr);
+        Frame(0);
+        m_frame.ShowWindow(SW_SHOWNOACTIVATE);
         HandleMessages();
     }
-    ~MeterFace() { m_meters.clear(); }
+    ~MeterFace() { m_frame.DestroyWindow(); }
     void Frame(int frame) {
         for (int i = 0; i < kMeters; ++i)
-            m_meters[static_cast<size_t>(i)]->SetPos(LevelOf(frame, i));
+            m_levels[i] = LevelOf(frame, i);
+        m_frame.SetUVValue(kInputs, m_levels, kTracks, m_levels + kInputs, kOutputs,
+                           m_levels + kInputs + kTracks, 0, 0);
     }
 
   private:
-    Face m_face;
-    std::vector<std::unique_ptr<CQVVUTableCtrl>> m_meters;
+    static constexpr int kAroundMeterPx = 86 + 20;
+    CQVVUFrame m_frame;
+    int m_levels[kMeters] = {};
 };
 
 class BarFace {
@@ -142,6 +151,21 @@ template <class AnyFace> double FrameCost(const ProcessorTime& clock, int frames
     return (clock.Seconds() - before) / frames;
 }
 
+// Of several rounds that take turns the one least disturbed by the machine's other work counts, for both sides.
+struct Costs {
+    double ours = std::numeric_limits<double>::infinity();
+    double copy = std::numeric_limits<double>::infinity();
+};
+
+Costs CompareWithCopy(const ProcessorTime& clock) {
+    Costs least;
+    for (int round = 0; round < kRounds; ++round) {
+        least.ours = std::min(least.ours, FrameCost<MeterFace>(clock, kFrames));
+        least.copy = std::min(least.copy, FrameCost<CopyFace>(clock, kFrames));
+    }
+    return least;
+}
+
 struct Pace {
     double processorSeconds; // of a second of frames
     int lateFrames;
@@ -177,8 +201,7 @@ Pace RunAtRate(const ProcessorTime& clock, int framesPerSecond, int seconds) {
 void ReportMeters() {
     const ProcessorTime clock;
     std::printf("processor time over: %s\n", clock.Names().c_str());
-    const double ours = FrameCost<MeterFace>(clock, kFrames);
-    const double copy = FrameCost<CopyFace>(clock, kFrames);
+    const auto [ours, copy] = CompareWithCopy(clock);
     const double bars = FrameCost<BarFace>(clock, kPeerFrames);
     std::printf("bench|107 meters, a frame, against progress bars|%.4f|ms|system progress bars|%.4f|%.3f\n",
                 ours * 1e3, bars * 1e3, kGoalAgainstBars);
@@ -207,6 +230,13 @@ void UnchangedPosition(benchmark::State& state) {
         meter.SetPos(50);
 }
 BENCHMARK(UnchangedPosition)->Name("meter/SetPos unchanged/ours")->UseRealTime();
+
+void UnchangedFace(benchmark::State& state) {
+    MeterFace face;
+    for (auto _ : state)
+        face.Frame(0);
+}
+BENCHMARK(UnchangedFace)->Name("meter/SetUVValue of 107 unchanged/ours")->UseRealTime();
 
 } // namespace
 

@@ -78,8 +78,25 @@ TEST(MeterRows, LevelsFillFromTheFoot) {
         EXPECT_LT(QV_MeterRowOfLevel(level, kHeight), QV_MeterRowOfLevel(level - 1, kHeight));
 }
 
-// The changed rows must be exactly those between the first and the last row that look different.
-TEST(MeterRows, ChangedRowsCoverEveryDifferenceAndNoMore) {
+// Laid over the picture before, the runs must give the picture after, and touch no row that looks the same.
+void ExpectChanges(const QVMeterPicture& before, const QVMeterPicture& after) {
+    const QVMeterRuns runs = QV_ChangedRuns(before, after);
+    int row = 0;
+    for (const QVMeterRun& run : runs) {
+        ASSERT_LT(run.from, run.to);
+        for (; row < run.from; ++row)
+            ASSERT_EQ(after.RowAt(row), before.RowAt(row)) << row;
+        for (; row < run.to; ++row) {
+            ASSERT_EQ(after.RowAt(row), run.state) << row;
+            ASSERT_NE(before.RowAt(row), run.state) << row;
+        }
+    }
+    for (; row < after.height; ++row)
+        ASSERT_EQ(after.RowAt(row), before.RowAt(row)) << row;
+    ASSERT_EQ(row, after.height);
+}
+
+TEST(MeterRows, ChangedRunsAreTheDifferencesAndNoMore) {
     uint64_t now = 0;
     unsigned seed = 12345;
     QVMeterBallistics meter;
@@ -89,32 +106,55 @@ TEST(MeterRows, ChangedRowsCoverEveryDifferenceAndNoMore) {
         now += seed >> 16 & 63;
         meter.SetLevel(static_cast<int>(seed >> 8 & 0x7FFF) % 101, now);
         const QVMeterPicture after = QV_GetMeterPicture(meter, kHeight, kMarks);
-        const QVRowRange range = QV_ChangedRows(before, after);
-        int first = kHeight, last = -1;
-        for (int row = 0; row < kHeight; ++row) {
-            if (before.RowAt(row) != after.RowAt(row)) {
-                first = std::min(first, row);
-                last = row;
-            }
-        }
-        if (last < 0) {
-            ASSERT_TRUE(range.IsEmpty() || range.to <= kMarks.clipHeight);
-        } else {
-            ASSERT_LE(range.from, first);
-            ASSERT_GE(range.to, last + 1);
-        }
+        ASSERT_NO_FATAL_FAILURE(ExpectChanges(before, after)) << i;
         before = after;
     }
-    EXPECT_TRUE(QV_ChangedRows(before, before).IsEmpty());
+    EXPECT_TRUE(QV_ChangedRuns(before, before).IsEmpty());
+}
+
+// Pictures that no meter shows (marks below the bar, crossed or outside) are bounded as well.
+TEST(MeterRows, ChangedRunsOfAnyTwoPictures) {
+    unsigned seed = 99;
+    const auto any = [&seed](int from, int to) {
+        seed = seed * 1103515245u + 12345u;
+        return from + static_cast<int>(seed >> 16) % (to - from);
+    };
+    const auto picture = [&any] {
+        return QVMeterPicture{20, any(-3, 24), any(-3, 24), any(-3, 24), any(-3, 24)};
+    };
+    for (int i = 0; i < 20000; ++i)
+        ASSERT_NO_FATAL_FAILURE(ExpectChanges(picture(), picture())) << i;
 }
 
 TEST(MeterRows, AnotherHeightIsAllRows) {
     QVMeterBallistics meter;
-    const QVRowRange range =
-        QV_ChangedRows(QV_GetMeterPicture(meter, 100, kMarks), QV_GetMeterPicture(meter, 120, kMarks));
-    EXPECT_EQ(range.from, 0);
-    EXPECT_EQ(range.to, 120);
+    meter.SetLevel(50, 0);
+    const QVMeterRuns runs =
+        QV_ChangedRuns(QV_GetMeterPicture(meter, 100, kMarks), QV_GetMeterPicture(meter, 120, kMarks));
+    ASSERT_EQ(runs.end() - runs.begin(), 2);
+    EXPECT_EQ(runs.begin()[0].from, 0);
+    EXPECT_EQ(runs.begin()[0].to, 60);
+    EXPECT_EQ(runs.begin()[1].from, 60);
+    EXPECT_EQ(runs.begin()[1].to, 120);
     EXPECT_EQ(QV_GetMeterPicture(meter, -5, kMarks).height, 0);
+}
+
+TEST(MeterRows, RunsOfAPartStayInsideIt) {
+    QVMeterBallistics meter;
+    meter.SetLevel(100, 0);
+    meter.SetLevel(50, 1);
+    const QVMeterPicture picture = QV_GetMeterPicture(meter, kHeight, kMarks);
+    for (int from = -5; from < kHeight + 5; from += 3) {
+        for (int to = from - 3; to < kHeight + 5; to += 7) {
+            int row = std::clamp(from, 0, kHeight);
+            for (const QVMeterRun& run : QV_MeterRuns(picture, from, to)) {
+                ASSERT_EQ(run.from, row);
+                for (; row < run.to; ++row)
+                    ASSERT_EQ(picture.RowAt(row), run.state);
+            }
+            ASSERT_EQ(row, std::max(std::clamp(from, 0, kHeight), std::min(to, kHeight)));
+        }
+    }
 }
 
 } // namespace

@@ -185,6 +185,87 @@ TEST(VUTable, ResizeAndZeroSize) {
     EXPECT_NEAR(litRows(Picture::ofClient(stand.meter())), kHeight / 2, 2);
 }
 
+void setAll(MeterStand& stand, const std::vector<int>& positions) {
+    std::vector<CQVVUTableCtrl*> meters;
+    for (const auto& meter : stand.meters)
+        meters.push_back(meter.get());
+    CQVVUTableCtrl::SetPos(meters.data(), positions.data(), static_cast<int>(positions.size()));
+}
+
+TEST(VUTable, ManyAtOnceShowWhatARepaintWouldShow) {
+    MeterStand stand(6);
+    unsigned seed = 3;
+    for (int i = 0; i < 100; ++i) {
+        std::vector<int> positions;
+        for (size_t meter = 0; meter < stand.meters.size(); ++meter) {
+            seed = seed * 1103515245u + 12345u;
+            positions.push_back(static_cast<int>(seed >> 16) % 140 - 20);
+        }
+        setAll(stand, positions);
+        EXPECT_EQ(std::clamp(positions[5], 0, 100), stand.meter(5).GetPos());
+        expectScreenIsRepaint(stand.meter(i % 6));
+    }
+    for (int i = 0; i < 6; ++i)
+        expectScreenIsRepaint(stand.meter(i));
+}
+
+TEST(VUTable, ManyAtOnceUnchangedPaintNothing) {
+    MeterStand stand(4);
+    setAll(stand, {10, 20, 30, 40});
+    const COLORREF mark = RGB(1, 2, 3);
+    for (int i = 0; i < 4; ++i) {
+        CClientDC dc(&stand.meter(i));
+        for (int y = 0; y < kHeight; ++y)
+            dc.SetPixelV(3, y, mark);
+    }
+    setAll(stand, {10, 20, 35, 40});
+    for (const int unchanged : {0, 1, 3})
+        EXPECT_EQ(Picture::ofClient(stand.meter(unchanged)).count(mark), kHeight) << unchanged;
+    const int kept = Picture::ofClient(stand.meter(2)).count(mark);
+    EXPECT_LT(kept, kHeight);
+    EXPECT_GE(kept, kHeight - 12);
+}
+
+TEST(VUTable, ManyAtOnceMayBeAnything) {
+    MeterStand one(2), other(2);
+    other.SetWindowPos(nullptr, 200, 10, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    other.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    CQVVUTableCtrl windowless;
+    CQVVUTableCtrl* const meters[] = {&one.meter(0), nullptr,       &other.meter(0),
+                                      &windowless,   &one.meter(1), &other.meter(1)};
+    const int positions[] = {90, 1, 60, 77, INT_MAX, INT_MIN};
+    CQVVUTableCtrl::SetPos(meters, positions, 6);
+    CQVVUTableCtrl::SetPos(nullptr, positions, 6);
+    CQVVUTableCtrl::SetPos(meters, nullptr, 6);
+    CQVVUTableCtrl::SetPos(meters, positions, -1);
+    EXPECT_EQ(77, windowless.GetPos());
+    EXPECT_NEAR(litRows(Picture::ofClient(one.meter(0))), kHeight * 90 / 100, 2);
+    EXPECT_NEAR(litRows(Picture::ofClient(other.meter(0))), kHeight * 60 / 100, 2);
+    for (CWnd* const meter : {&one.meter(0), &one.meter(1), &other.meter(0), &other.meter(1)})
+        expectScreenIsRepaint(*meter);
+}
+
+// A hidden meter leaves its place to the parent, and one that gives way to what covers it leaves that alone.
+TEST(VUTable, ManyAtOncePaintOnlyWhatIsTheirs) {
+    MeterStand stand(3);
+    stand.meter(1).ShowWindow(SW_HIDE);
+    stand.meter(2).ModifyStyle(0, WS_CLIPSIBLINGS);
+    CWnd cover;
+    cover.CreateEx(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_WHITERECT, 10 + 2 * 22, 10, kWidth, kHeight,
+                   stand, nullptr);
+    cover.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    stand.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const Picture before = Picture::ofClient(stand);
+    setAll(stand, {0, 100, 100});
+    const Picture after = Picture::ofClient(stand);
+    EXPECT_EQ(0, before.differences(after));
+    EXPECT_EQ(kWidth * kHeight, Picture::ofClient(cover).count(RGB(255, 255, 255)));
+    stand.meter(1).ShowWindow(SW_SHOW);
+    stand.meter(1).UpdateWindow();
+    EXPECT_NEAR(litRows(Picture::ofClient(stand.meter(1))), kHeight, 2);
+    cover.DestroyWindow();
+}
+
 TEST(VUTable, WithoutAWindowThePositionIsKept) {
     CQVVUTableCtrl meter;
     meter.SetPos(33);

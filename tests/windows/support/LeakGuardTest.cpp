@@ -1,5 +1,6 @@
 #include "LeakGuard.h"
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -130,6 +131,22 @@ TEST(LeakGuard, CleanCodePasses) {
             CreateWindowW(L"EDIT", L"x", WS_POPUP, 0, 0, 50, 20, nullptr, nullptr, nullptr, nullptr);
         DeleteObject(CreateSolidBrush(RGB(9, 9, 9)));
         DestroyWindow(window);
+    });
+}
+
+void loseABrushInEachRun() {
+    expectNoLeak(20, [] { CreateSolidBrush(RGB(9, 9, 9)); });
+}
+
+TEST(LeakGuard, WhatIsLostInEachRunIsFound) {
+    EXPECT_NONFATAL_FAILURE(loseABrushInEachRun(), "brush +20");
+}
+
+TEST(LeakGuard, WhatIsMadeOnceIsNoLoss) {
+    int run = 0;
+    expectNoLeak(50, [&run] {
+        if (++run == kWarmUpRuns + 10)
+            CreateSolidBrush(RGB(8, 8, 8)); // as a cache that is filled late
     });
 }
 
