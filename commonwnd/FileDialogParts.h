@@ -2,6 +2,8 @@
 #pragma once
 
 #include "DockedWindow.h"
+#include "ShellSelection.h"
+#include "ShellView.h"
 #include "ViewBar.h"
 
 #include <QVButton.h>
@@ -10,8 +12,9 @@ namespace _qv_commonwnd {
 
 class CFileDialogParts {
   public:
-    CWnd listHolder;                      // the shell list's placeholder
-    CWnd shellView;                       // sends the list's custom draw back to the list
+    CWnd listHolder; // the shell list's placeholder
+    CShellView shellView;
+    CShownFolder folder;
     CViewBar viewBar;                     // folder up, new folder, kinds of view
     _qv_commonctrl::CQVButton helpButton; // shown to hosts that ask for it only
     CDockedWindow advance;

@@ -20,6 +20,12 @@ namespace {
 constexpr DWORD kMultiSelectChars = 260000;
 constexpr int kAllowPsdPanel = 2;
 
+// Where the profile keeps the dialog's last folder: a registry item, which is another store than the profile's section
+// of nearly the same name.
+constexpr wchar_t kFolderItem[] = L"pathset";
+constexpr wchar_t kFolderValue[] = L"filepath";
+constexpr wchar_t kRootFolder[] = L"C:\\";
+
 static_assert(sizeof(OPENFILENAMEW) == 152, "the full record of a 64-bit system");
 
 } // namespace
@@ -132,10 +138,10 @@ void CQVFileDialog::EnableLayerInfo(int n) {
 void CQVFileDialog::TestTempFilePath() {
     _qv_commonclass::CZ5Regkey item;
     CString folder;
-    if (!item.OpenItem(L"pathset", TRUE))
+    if (!item.OpenItem(kFolderItem, TRUE))
         return;
-    if (item.GetValue(L"filepath", folder) && !PathFileExistsW(folder))
-        item.SetValue(L"filepath", L"C:\\");
+    if (item.GetValue(kFolderValue, folder) && !PathFileExistsW(folder))
+        item.SetValue(kFolderValue, kRootFolder);
     item.Close();
 }
 

@@ -111,6 +111,8 @@ void CQVFileDialog::TakeControls() {
 
 void CQVFileDialog::CreatePanels() {
     CWnd* const frame = m_pWndEx;
+    if (!(m_dwPsdState & PSDSTATE_ALLOWED))
+        m_wndPsdOption.DelayControls();
     if (m_wndPsdOption.Create(nullptr, nullptr, kPanelStyle, CRect(), frame, kPsdPanelId))
         m_wndPsdOption.ShowWindow(SW_HIDE);
     if (!(m_dwOption & FDO_IMPORTFOLDER) ||

@@ -56,6 +56,7 @@ void CQVFileDialog::ForgetSelection() {
 }
 
 void CQVFileDialog::OnDialogInitDone() {
+    m_pParts->folder.Forget();
     ForgetSelection();
     if (!m_pWndEx->m_hWnd)
         return;
@@ -73,9 +74,15 @@ void CQVFileDialog::TellTypeChange() {
     TellAdvanceWnd(FILESEL_ATTACHED, reinterpret_cast<LPARAM>(this));
 }
 
+// The list that is skinned needs no search.
+HWND CQVFileDialog::ShownList() const {
+    const HWND skinned = m_pSkinnedList ? m_pSkinnedList->m_hWnd : nullptr;
+    return skinned ? skinned : ShellListOf(Frame());
+}
+
 void CQVFileDialog::OnSelectionChange() {
     m_btnOK.Invalidate();
-    const HWND list = ShellListOf(Frame());
+    const HWND list = ShownList();
     const int count = SelectedCount(list);
     m_pParts->toldCount = count;
     if (count <= 0)
@@ -88,7 +95,7 @@ void CQVFileDialog::OnSelectionChange() {
 
 // Not every system tells when an item is unselected.
 void CQVFileDialog::OnListSelection() {
-    if (SelectedCount(ShellListOf(Frame())) != m_pParts->toldCount)
+    if (SelectedCount(ShownList()) != m_pParts->toldCount)
         OnSelectionChange();
 }
 
@@ -99,7 +106,7 @@ void CQVFileDialog::OnNothingSelected() {
 }
 
 void CQVFileDialog::OnOneSelected(HWND list) {
-    const SelectedItem item = FindSelectedItem(*this, list, SelectionCount::One);
+    const SelectedItem item = FindSelectedItem(*this, m_pParts->folder, list, SelectionCount::One);
     m_strSelPath.Empty();
     switch (item.kind) {
     case SelectedKind::Missing:
@@ -144,7 +151,7 @@ void CQVFileDialog::OnSeveralSelected(HWND list, int count) {
     ForgetSelection();
     if (!HasAdvanceWnd())
         return;
-    const SelectedItem item = FindSelectedItem(*this, list, SelectionCount::Several);
+    const SelectedItem item = FindSelectedItem(*this, m_pParts->folder, list, SelectionCount::Several);
     if (item.kind == SelectedKind::File && !item.isFolder)
         TellAdvanceWnd(FILESEL_ONE, reinterpret_cast<LPARAM>(item.path.GetString()));
     TellAdvanceWnd(FILESEL_SEVERAL, reinterpret_cast<LPARAM>(&count));
@@ -152,6 +159,7 @@ void CQVFileDialog::OnSeveralSelected(HWND list, int count) {
 
 void CQVFileDialog::TakeNewFolder() {
     m_btnOK.Invalidate();
+    m_pParts->folder.Forget();
     ForgetSelection();
     if (!SkinsShellList(SystemMajorVersion()))
         return;
@@ -175,6 +183,7 @@ void CQVFileDialog::SkinShellView(HWND view, HWND list) {
     DropEdge(list);
     m_pListView->SetListProcedure(reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(list, GWLP_WNDPROC)));
     QV_ReplaceWnd(list);
+    m_pListView->SetAnswers(&m_pParts->shellView.Answers());
     m_pListView->SetHeaderObject(&m_header);
     m_pListView->SetSelectionAction([this] { OnListSelection(); });
     m_pParts->toldCount = 0;

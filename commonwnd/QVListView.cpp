@@ -70,6 +70,29 @@ bool IsAboutItems(UINT message) {
     }
 }
 
+// Messages after which the owner may answer otherwise.
+bool ChangesItems(UINT message) {
+    switch (message) {
+    case LVM_SETITEMA:
+    case LVM_SETITEMW:
+    case LVM_SETITEMTEXTA:
+    case LVM_SETITEMTEXTW:
+    case LVM_INSERTITEMA:
+    case LVM_INSERTITEMW:
+    case LVM_DELETEITEM:
+    case LVM_DELETEALLITEMS:
+    case LVM_SORTITEMS:
+    case LVM_SORTITEMSEX:
+    case LVM_SETITEMCOUNT:
+    case LVM_SETIMAGELIST:
+    case LVM_UPDATE:
+    case LVM_REDRAWITEMS:
+        return true;
+    default:
+        return false;
+    }
+}
+
 CPoint Origin(HWND list) {
     return CPoint(::GetScrollPos(list, SB_HORZ), ::GetScrollPos(list, SB_VERT));
 }
@@ -113,7 +136,7 @@ void CQVListView::TakeHeader() {
 
 LRESULT CQVListView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_pfnList && IsAboutItems(message))
-        return ::CallWindowProcW(m_pfnList, m_hWnd, message, wParam, lParam);
+        return OnItemMessage(message, wParam, lParam);
     const bool moving = MovesPixels(message);
     const CPoint before = moving ? Origin(m_hWnd) : CPoint();
     const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
@@ -134,6 +157,20 @@ LRESULT CQVListView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         break;
     }
     return result;
+}
+
+LRESULT CQVListView::OnItemMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!ChangesItems(message))
+        return ::CallWindowProcW(m_pfnList, m_hWnd, message, wParam, lParam);
+    ForgetAnswers();
+    const LRESULT result = ::CallWindowProcW(m_pfnList, m_hWnd, message, wParam, lParam);
+    ForgetAnswers(); // the list may have asked meanwhile
+    return result;
+}
+
+void CQVListView::ForgetAnswers() {
+    if (m_pAnswers)
+        m_pAnswers->Forget();
 }
 
 // The shell's view sends its list's notifications back to the list.

@@ -1,6 +1,8 @@
 // The shell's file list inside the file dialog.
 #pragma once
 
+#include "ListAnswers.h"
+
 #include <QVBaseCtrl.h>
 #include <QVListControls.h>
 
@@ -25,6 +27,10 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     // Called once after items have been selected or unselected, however many.
     void SetSelectionAction(std::function<void()> action) { m_selectionAction = std::move(action); }
 
+    // Names and pictures that the list's owner has answered; borrowed, null for none. They are forgotten when the list
+    // is told of other items.
+    void SetAnswers(CListAnswers* answers) { m_pAnswers = answers; }
+
     void OnSkinChange(UINT reason, HWND wnd) override;
 
   protected:
@@ -45,10 +51,13 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     void ApplyColors();
     void TakeHeader();
     void NoteItemChange(const NMLISTVIEW& change);
+    LRESULT OnItemMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    void ForgetAnswers();
 
     _qv_commonctrl::CQVHeaderCtrl* m_pHeader = nullptr;
     WNDPROC m_pfnList = nullptr;
     std::function<void()> m_selectionAction;
+    CListAnswers* m_pAnswers = nullptr;
     bool m_bSelectionAsked = false; // a look at the selection is due
 };
 

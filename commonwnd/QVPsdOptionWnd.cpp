@@ -74,17 +74,30 @@ DWORD CQVPsdOptionWnd::GetMinHeight() {
 int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
+    m_bCompileImport = TRUE;
+    AttachSkin(this);
+    if (!m_bDelayControls)
+        EnsureControls();
+    return 0;
+}
+
+void CQVPsdOptionWnd::DelayControls() {
+    m_bDelayControls = TRUE;
+}
+
+void CQVPsdOptionWnd::EnsureControls() {
+    if (!GetSafeHwnd() || m_stcImportType.GetSafeHwnd())
+        return;
     CreateRow(m_stcImportType, kImportTypeLabelId, L"IDS_FILEDLG_IMPORTTYPE", m_cmbImportType,
               kImportTypeComboId);
     m_cmbImportType.InsertString(kRenderImport, LWLoadString(L"IDS_FILEDLG_RENDERIMP"));
     m_cmbImportType.InsertString(kLayerImport, LWLoadString(L"IDS_FILEDLG_LAYERIMP"));
     m_cmbImportType.SetCurSel(kRenderImport);
-    m_bCompileImport = TRUE;
     CreateRow(m_stcLayer, kLayerLabelId, L"IDS_FILEDLG_LAYER", m_cmbLayer, kLayerComboId);
     m_cmbLayer.EnableWindow(FALSE);
-    AttachSkin(
-        this); // behind the controls: they have taken the new skin's font when the rows are placed anew
-    return 0;
+    // Behind the controls: they have taken a new skin's font when the rows are placed anew.
+    DetachSkin();
+    AttachSkin(this);
 }
 
 BOOL CQVPsdOptionWnd::CreateRow(CQVStatic& label, int labelId, LPCWSTR labelKey, CQVComboBox& combo,
@@ -124,7 +137,10 @@ void CQVPsdOptionWnd::PlaceRows() {
 
 void CQVPsdOptionWnd::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    PlaceRows();
+    if (cx > 0 || cy > 0) { // most dialogs never show the panel: nothing is placed before
+        EnsureControls();
+        PlaceRows();
+    }
     EnableControls();
 }
 
@@ -169,6 +185,7 @@ void CQVPsdOptionWnd::OnDestroy() {
 
 // By value: the exported signature is kept.
 void CQVPsdOptionWnd::ReadPsdFile(CString strPath) { // NOLINT(performance-unnecessary-value-param)
+    EnsureControls();
     m_arrLayerName.RemoveAll();
     if (!_qv_commonclass::CQVVideoPlay::GetPsdLayerInfo(strPath, m_arrLayerName) || !m_cmbLayer.GetSafeHwnd())
         return;

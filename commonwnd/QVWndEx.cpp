@@ -111,9 +111,8 @@ BOOL CQVWndEx::OnEraseBkgnd(CDC*) {
 }
 
 HBRUSH CQVWndEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-    const HBRUSH answer = CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
-    if (!pDC)
-        return answer;
+    if (!pDC) // whatever a dialog would answer is replaced, so it is not asked otherwise
+        return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
     pDC->SetBkMode(TRANSPARENT);
     pDC->SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));
     return QV_GetSysBrush(QVBRUSH_CHILD);

@@ -1,6 +1,9 @@
 #include "ShellSelection.h"
 
+#include <shellapi.h>
+
 #include <cstdint>
+#include <utility>
 
 namespace _qv_commonwnd {
 
@@ -9,20 +12,52 @@ namespace {
 constexpr int kMostTextUnits = 1024;
 constexpr std::uint32_t kOpaque = 0xFF000000;
 
-void LookUp(SelectedItem& item) {
-    WIN32_FIND_DATAW found = {};
-    const HANDLE search = item.path.IsEmpty() ? INVALID_HANDLE_VALUE : ::FindFirstFileW(item.path, &found);
+constexpr wchar_t kWildcards[] = L"*?";
+
+// A plain question first: a search takes ten times as long.
+DWORD AttributesOf(const CString& path) {
+    if (path.IsEmpty())
+        return INVALID_FILE_ATTRIBUTES;
+    const bool isPlain = path.FindOneOf(kWildcards) < 0 && path.Right(1) != L"\\";
+    const DWORD attributes = isPlain ? ::GetFileAttributesW(path) : INVALID_FILE_ATTRIBUTES;
+    if (attributes != INVALID_FILE_ATTRIBUTES)
+        return attributes;
+    WIN32_FIND_DATAW found = {}; // finds files in exclusive use, too
+    const HANDLE search = ::FindFirstFileW(path, &found);
     if (search == INVALID_HANDLE_VALUE)
-        return;
+        return INVALID_FILE_ATTRIBUTES;
     ::FindClose(search);
-    item.kind =
-        found.dwFileAttributes == FILE_ATTRIBUTE_DIRECTORY ? SelectedKind::Folder : SelectedKind::File;
-    item.isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return found.dwFileAttributes;
+}
+
+void Take(SelectedItem& item, DWORD attributes) {
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return;
+    item.kind = attributes == FILE_ATTRIBUTE_DIRECTORY ? SelectedKind::Folder : SelectedKind::File;
+    item.isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 std::uint32_t PixelOf(COLORREF color) {
     return kOpaque | static_cast<std::uint32_t>(GetRValue(color)) << 16 |
            static_cast<std::uint32_t>(GetGValue(color)) << 8 | GetBValue(color);
+}
+
+// Whether the shell shows the extension of a type it knows; the file need not exist.
+bool ShowsKnownExtensions() {
+    constexpr wchar_t known[] = L"a.txt";
+    SHFILEINFOW info = {};
+    return ::SHGetFileInfoW(known, FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
+                            SHGFI_USEFILEATTRIBUTES | SHGFI_DISPLAYNAME) &&
+           CString(info.szDisplayName) == known;
+}
+
+int ExtensionDot(const CString& name) {
+    const int dot = name.ReverseFind(L'.');
+    return dot + 1 < name.GetLength() ? dot : -1;
+}
+
+CString NameOf(const CString& path) {
+    return path.Mid(path.ReverseFind(L'\\') + 1);
 }
 
 HBITMAP OnePixel(COLORREF color) {
@@ -54,27 +89,55 @@ CString FirstSelectedText(HWND list) {
 }
 
 bool IsPathOf(const CString& path, const CString& shown) {
-    const CString name = path.Mid(path.ReverseFind(L'\\') + 1);
+    const CString name = NameOf(path);
     return name.CompareNoCase(shown) == 0 ||
            name.Left(shown.GetLength() + 1).CompareNoCase(shown + L".") == 0;
 }
 
-SelectedItem FindSelectedItem(const CFileDialog& dialog, HWND list, SelectionCount count) {
+const CString& CShownFolder::PathFor(const CFileDialog& dialog) {
+    Ask(dialog);
+    return m_path;
+}
+
+bool CShownFolder::ShowsExtensions(const CFileDialog& dialog) {
+    Ask(dialog);
+    return m_showsExtensions;
+}
+
+void CShownFolder::Ask(const CFileDialog& dialog) {
+    if (std::exchange(m_asked, true))
+        return;
+    m_path = dialog.GetFolderPath();
+    if (!m_path.IsEmpty() && m_path.Right(1) != L"\\")
+        m_path += L"\\";
+    m_showsExtensions = ShowsKnownExtensions();
+}
+
+SelectedItem FindSelectedItem(const CFileDialog& dialog, CShownFolder& folder, HWND list,
+                              SelectionCount count) {
     SelectedItem item;
     const CString shown = FirstSelectedText(list);
-    if (count == SelectionCount::One) {
+    const CString& folderPath = folder.PathFor(dialog);
+    // A file that the list names in full is the selected one, and the dialog would say the same.
+    if (!folderPath.IsEmpty() && ExtensionDot(shown) >= 0 && folder.ShowsExtensions(dialog)) {
+        item.path = folderPath + shown;
+        item.name = shown.Left(ExtensionDot(shown));
+        Take(item, AttributesOf(item.path));
+        if (item.kind == SelectedKind::File && !item.isFolder)
+            return item;
+        item = SelectedItem();
+    }
+    if (count == SelectionCount::One)
         item.path = dialog.GetPathName();
-        item.name = dialog.GetFileTitle();
-    }
+    item.name = NameOf(item.path);
     // The name field keeps the last file's name while a folder is selected, and all names of several.
-    if (item.path.IsEmpty() || dialog.GetFileExt().IsEmpty() || !IsPathOf(item.path, shown)) {
-        CString folder = dialog.GetFolderPath();
-        if (!folder.IsEmpty() && folder.Right(1) != L"\\")
-            folder += L"\\";
+    if (ExtensionDot(item.name) >= 0 && IsPathOf(item.path, shown)) {
+        item.name = item.name.Left(ExtensionDot(item.name));
+    } else {
         item.name = shown;
-        item.path = folder + item.name;
+        item.path = folderPath + item.name;
     }
-    LookUp(item);
+    Take(item, AttributesOf(item.path));
     return item;
 }
 

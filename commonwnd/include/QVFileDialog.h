@@ -193,6 +193,7 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void MoveTopControls();
 
     void OnDialogInitDone();
+    HWND ShownList() const;
     void OnSelectionChange();
     void OnListSelection();
     void TakeNewFolder();

@@ -20,6 +20,10 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVB
     CQVPsdOptionWnd();
     ~CQVPsdOptionWnd() override;
 
+    // Before the window is created, for an owner that may never show it: the controls are made when they are needed
+    // first, that is when a document is read or the window gets a size.
+    void DelayControls();
+
     // Reads a document's layers into the check-list, all of them checked, the top layer first. A document
     // that cannot be read empties the layer names and leaves the list, and what was checked in it, as it was.
     void ReadPsdFile(CString strPath);
@@ -73,6 +77,7 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVB
     int m_nDropHeight;
 
   private:
+    void EnsureControls();
     BOOL CreateRow(_qv_commonctrl::CQVStatic& label, int labelId, LPCWSTR labelKey,
                    _qv_commonctrl::CQVComboBox& combo, int comboId);
     void PlaceRow(CWnd& label, _qv_commonctrl::CQVComboBox& combo, int topPx);
@@ -82,6 +87,8 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVB
     void EnableControls();
     void KeepChecks();
     void OnImportTypeChanged();
+
+    BOOL m_bDelayControls = FALSE;
 };
 
 } // namespace _qv_commonwnd

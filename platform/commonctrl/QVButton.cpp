@@ -95,6 +95,11 @@ LRESULT CQVButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         return result;
     if (!m_hWnd || m_pImpl->GetKind() == Kind::Native)
         return CButton::WindowProc(message, wParam, lParam);
+    if (message == BM_SETSTYLE && LOWORD(wParam) == LOWORD(GetStyle())) { // dialogs repeat it time and again
+        if (lParam)
+            Invalidate(FALSE);
+        return 0;
+    }
     if (m_pImpl->hot.Follow(m_hWnd, message))
         Invalidate(FALSE);
     switch (message) {

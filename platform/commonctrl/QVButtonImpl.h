@@ -29,7 +29,7 @@ class CQVButtonImpl {
     HWND Wnd() const { return m_button.m_hWnd; }
     DWORD Style() const { return WindowStyle(Wnd()); }
     int Px(int px96) const { return QV_ScalePx(Wnd(), px96); }
-    bool IsFocused() const { return ::GetFocus() == Wnd(); }
+    bool IsFocused() const { return (::SendMessageW(Wnd(), BM_GETSTATE, 0, 0) & BST_FOCUS) != 0; }
     bool IsDefault() const { return (Style() & BS_TYPEMASK) == BS_DEFPUSHBUTTON; }
     ControlState State() const;
     int CheckState() const;

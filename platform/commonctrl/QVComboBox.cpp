@@ -13,8 +13,11 @@ namespace {
 // it may draw in between its notifications.
 enum class Drawing { None, Silent, WithNotice };
 
-Drawing DrawingOf(UINT message) {
+Drawing DrawingOf(UINT message, WPARAM wParam) {
     switch (message) {
+    case WM_COMMAND: // of the edit field, whose text is its own
+        return HIWORD(wParam) == EN_UPDATE || HIWORD(wParam) == EN_CHANGE ? Drawing::None
+                                                                          : Drawing::WithNotice;
     case CB_SETCURSEL:
     case CB_SELECTSTRING:
     case CB_RESETCONTENT:
@@ -33,7 +36,6 @@ Drawing DrawingOf(UINT message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
     case WM_CHAR:
-    case WM_COMMAND:
     case WM_MOUSEWHEEL:
     case WM_CAPTURECHANGED:
     case WM_SIZE:
@@ -115,7 +117,7 @@ LRESULT CQVComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         break;
     }
-    const Drawing drawing = DrawingOf(message);
+    const Drawing drawing = DrawingOf(message, wParam);
     if (drawing == Drawing::Silent) {
         NativePaintPause pause(m_hWnd);
         return CComboBox::WindowProc(message, wParam, lParam);

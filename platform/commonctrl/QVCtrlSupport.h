@@ -11,7 +11,7 @@ namespace _qv_commonctrl {
 // round messages that tell the parent nothing: the window counts as hidden meanwhile.
 class NativePaintPause {
   public:
-    explicit NativePaintPause(HWND wnd) : m_wnd(wnd), m_paused(IsShown(wnd)) {
+    explicit NativePaintPause(HWND wnd) : m_wnd(wnd), m_paused(::IsWindowVisible(wnd) != FALSE) {
         if (m_paused)
             ::DefWindowProcW(m_wnd, WM_SETREDRAW, FALSE, 0);
     }
@@ -25,10 +25,8 @@ class NativePaintPause {
     }
 
   private:
-    static bool IsShown(HWND wnd) { return (::GetWindowLongPtrW(wnd, GWL_STYLE) & WS_VISIBLE) != 0; }
-
     HWND m_wnd;
-    bool m_paused;
+    bool m_paused; // a window inside a hidden one draws nothing anyway
 };
 
 // Whether the pointer is above a window.

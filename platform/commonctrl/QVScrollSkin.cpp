@@ -4,7 +4,9 @@
 
 #include <commctrl.h>
 
+#include <cstring>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace _qv_commonctrl {
@@ -48,12 +50,13 @@ void SetProcedure(HWND wnd, WNDPROC procedure) {
     SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
-enum class Effect { None, Now, Soon };
+enum class Effect { None, Painted, Now, Soon };
 
 // What a message may do to the scroll bars of a list, tree, edit or list box.
 Effect EffectOf(UINT message) {
     switch (message) {
     case WM_PAINT:
+        return Effect::Painted;
     case WM_NCPAINT:
     case WM_SIZE:
     case WM_WINDOWPOSCHANGED:
@@ -238,7 +241,9 @@ LRESULT ScrollSkin::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const Effect effect = EffectOf(message);
     if (effect == Effect::None || !IsAttached(wnd, this)) // the message may have ended the window
         return result;
-    if (effect == Effect::Now)
+    if (effect == Effect::Painted)
+        SynchroniseIfChanged();
+    else if (effect == Effect::Now)
         Synchronise();
     else
         SynchroniseSoon();
@@ -297,10 +302,36 @@ void ScrollSkin::SynchroniseSoon() {
         m_synchroniseAsked = PostMessageW(m_wnd, SynchroniseMessage(), 0, 0);
 }
 
+bool ScrollSkin::Glance::operator==(const Glance& other) const {
+    return style == other.style && window == other.window &&
+           std::memcmp(&vertical, &other.vertical, sizeof vertical) == 0 &&
+           std::memcmp(&horizontal, &other.horizontal, sizeof horizontal) == 0;
+}
+
+ScrollSkin::Glance ScrollSkin::Look() const {
+    Glance glance;
+    glance.style = GetWindowLongPtrW(m_wnd, GWL_STYLE);
+    GetWindowRect(m_wnd, glance.window);
+    for (auto [info, id] : {std::pair{&glance.vertical, SB_VERT}, std::pair{&glance.horizontal, SB_HORZ}}) {
+        info->cbSize = sizeof *info;
+        info->fMask = SIF_ALL;
+        GetScrollInfo(m_wnd, id, info);
+    }
+    return glance;
+}
+
+// A control paints far more often than its bars change. A held thumb moves before the position does.
+void ScrollSkin::SynchroniseIfChanged() {
+    const bool held = m_vertical.pressed != ScrollPart::None || m_horizontal.pressed != ScrollPart::None;
+    if (held || !(Look() == m_seen))
+        Synchronise();
+}
+
 void ScrollSkin::Synchronise() {
     if (m_synchronising) // painting an overlay may send messages to the window
         return;
     m_synchronising = true;
+    m_seen = Look();
     Synchronise(m_vertical);
     Synchronise(m_horizontal);
     m_corner.Show(CornerRect(), OverlayPicture());

@@ -47,6 +47,18 @@ class ScrollSkin {
     void OnNcMouseMove(WPARAM hitCode, LPARAM screenPoint);
     void OnHotTimer();
 
+    // What of the native bars can be read without asking another process. Painting looks for changes here first.
+    struct Glance {
+        LONG_PTR style = 0; // 0: nothing has been read yet
+        CRect window;
+        SCROLLINFO vertical = {};
+        SCROLLINFO horizontal = {};
+
+        bool operator==(const Glance& other) const;
+    };
+
+    Glance Look() const;
+    void SynchroniseIfChanged();
     void Synchronise(); // reads the native bars and shows what has changed
     void SynchroniseSoon();
     void Synchronise(Bar& bar);
@@ -60,6 +72,7 @@ class ScrollSkin {
     Bar m_vertical;
     Bar m_horizontal;
     ScrollOverlay m_corner;
+    Glance m_seen; // when the bars were last shown
     bool m_addedClipSiblings = false;
     bool m_synchroniseAsked = false;
     bool m_synchronising = false;

@@ -29,6 +29,8 @@ class QVCOMMONCTRL_API CQVMemoDC : public CDC {
 
     bool OpenSurface();
     void CloseSurface();
+    bool HasPicture() const; // one that is still to be copied
+    void CopyPlain();
 
     CDC* m_pTarget;
     CRect m_rect; // what is composed and copied: the rectangle inside the target's clip box

@@ -1,5 +1,6 @@
 // The file dialog in folders of different sizes: ours against the system's dialog with an empty hook.
 #include "DialogRun.h"
+#include "Rounds.h"
 
 #include <benchmark/benchmark.h>
 
@@ -52,29 +53,20 @@ Folders& TheFolders() {
     return folders;
 }
 
-void Open(benchmark::State& state, Whose whose, int files) {
-    const std::wstring folder = TheFolders().Of(files);
-    for (auto _ : state)
-        state.SetIterationTime(RunDialog(whose, folder, [](HWND) {}));
-    if (whose == Whose::Ours)
-        state.counters["goal_ratio"] = kOpenGoal;
+double OpenOn(Whose whose, int files) {
+    return RunDialog(whose, TheFolders().Of(files), [](HWND) {});
 }
 
 // Something done inside the running dialog.
-void InDialog(benchmark::State& state, Whose whose, const std::function<double(HWND)>& timed) {
-    const std::wstring folder = TheFolders().Of(kManyFiles);
-    for (auto _ : state) {
-        double seconds = 0;
-        RunDialog(whose, folder, [&](HWND frame) { seconds = timed(frame); });
-        state.SetIterationTime(seconds);
-    }
-    if (whose == Whose::Ours)
-        state.counters["goal_ratio"] = kActionGoal;
+double InDialog(Whose whose, const std::function<double(HWND)>& timed) {
+    double seconds = 0;
+    RunDialog(whose, TheFolders().Of(kManyFiles), [&](HWND frame) { seconds = timed(frame); });
+    return seconds;
 }
 
-void ChangeFolder(benchmark::State& state, Whose whose) {
+double ChangeFolder(Whose whose) {
     const std::wstring other = TheFolders().Of(10);
-    InDialog(state, whose, [&](HWND frame) {
+    return InDialog(whose, [&](HWND frame) {
         return SecondsOf([&] {
             ::SendDlgItemMessageW(frame, kNameField, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(other.c_str()));
             ::SendMessageW(frame, WM_COMMAND, IDOK, 0);
@@ -83,8 +75,8 @@ void ChangeFolder(benchmark::State& state, Whose whose) {
     });
 }
 
-void ChangeSelection(benchmark::State& state, Whose whose) {
-    InDialog(state, whose, [](HWND frame) {
+double ChangeSelection(Whose whose) {
+    return InDialog(whose, [](HWND frame) {
         const HWND list = ListOf(frame);
         return SecondsOf([&] {
                    for (int i = 0; i < kSelectionChanges; ++i) {
@@ -97,8 +89,8 @@ void ChangeSelection(benchmark::State& state, Whose whose) {
     });
 }
 
-void SelectAll(benchmark::State& state, Whose whose) {
-    InDialog(state, whose, [](HWND frame) {
+double SelectAll(Whose whose) {
+    return InDialog(whose, [](HWND frame) {
         const HWND list = ListOf(frame);
         return SecondsOf([&] {
             ListView_SetItemState(list, -1, LVIS_SELECTED, LVIS_SELECTED);
@@ -115,16 +107,6 @@ void WarmUp(benchmark::State& state) {
     }
 }
 
-void RegisterPair(const std::string& name, int runs,
-                  const std::function<void(benchmark::State&, Whose)>& body) {
-    for (const Whose whose : {Whose::Bare, Whose::Ours})
-        benchmark::RegisterBenchmark(
-            (name + (whose == Whose::Bare ? "/peer:bare with hook" : "/ours")).c_str(),
-            [=](benchmark::State& state) { body(state, whose); })
-            ->UseManualTime()
-            ->Iterations(runs);
-}
-
 } // namespace
 
 void RegisterFolderBenchmarks() {
@@ -133,12 +115,12 @@ void RegisterFolderBenchmarks() {
         ->Iterations(1);
     struct Size {
         int files;
-        int runs;
+        int rounds;
     };
-    for (const auto [files, runs] : {Size{10, 20}, Size{1000, 10}, Size{20000, 2}})
-        RegisterPair("file dialog, opened on " + std::to_string(files) + " files", runs,
-                     [files = files](benchmark::State& state, Whose whose) { Open(state, whose, files); });
-    RegisterPair("file dialog, folder change", 10, ChangeFolder);
-    RegisterPair("file dialog, selection change", 5, ChangeSelection);
-    RegisterPair("file dialog, select all of 1000 files", 2, SelectAll);
+    for (const auto [files, rounds] : {Size{10, 31}, Size{1000, 21}, Size{20000, 3}})
+        RegisterInTurn("file dialog, opened on " + std::to_string(files) + " files", rounds, kOpenGoal,
+                       [files = files](Whose whose) { return OpenOn(whose, files); });
+    RegisterInTurn("file dialog, folder change", 11, kActionGoal, ChangeFolder);
+    RegisterInTurn("file dialog, selection change", 11, kActionGoal, ChangeSelection);
+    RegisterInTurn("file dialog, select all of 1000 files", 3, kActionGoal, SelectAll);
 }
