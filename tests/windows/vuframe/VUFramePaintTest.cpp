@@ -76,6 +76,7 @@ TEST_F(VUFramePaint, NothingWhiteStandsInTheDarkFace) {
     Set(frame, 2, 2, 2);
     frame.Paint();
     const Picture shot = Picture::ofClient(frame);
+    EXPECT_TRUE(shot.save(qvtest::picturePath(L"meter-frame")));
     for (const CQVButton* button : Shown<CQVButton>(frame)) {
         const CRect place = Place(frame, *button);
         EXPECT_EQ(m_raised, shot.at(place.left, place.top));
