@@ -117,7 +117,7 @@ void RegisterFolderBenchmarks() {
         int files;
         int rounds;
     };
-    for (const auto [files, rounds] : {Size{10, 31}, Size{1000, 21}, Size{20000, 3}})
+    for (const auto [files, rounds] : {Size{10, 31}, Size{1000, 21}, Size{20000, 5}})
         RegisterInTurn("file dialog, opened on " + std::to_string(files) + " files", rounds, kOpenGoal,
                        [files = files](Whose whose) { return OpenOn(whose, files); });
     RegisterInTurn("file dialog, folder change", 11, kActionGoal, ChangeFolder);
