@@ -252,7 +252,7 @@ class Storm {
 };
 
 TEST_F(FileDialogLife, RandomMessagesNeitherCrashNorHang) {
-    constexpr int kMessages = 20000;
+    constexpr int kMessages = 100000;
     constexpr int kRounds = 20;
     constexpr unsigned kSeed = 20240131;
     const int total = NumberFrom("QV_STORM_MESSAGES", kMessages);
