@@ -1,8 +1,7 @@
 // The file dialog in folders of different sizes: ours against the system's dialog with an empty hook.
 #include "DialogRun.h"
-#include "Rounds.h"
 
-#include <benchmark/benchmark.h>
+#include <InTurn.h>
 
 #include <commctrl.h>
 
@@ -99,28 +98,24 @@ double SelectAll(Whose whose) {
     });
 }
 
-// The first dialogs of a process load the shell's parts; they count for nobody.
-void WarmUp(benchmark::State& state) {
-    for (auto _ : state) {
-        RunDialog(Whose::Ours, TheFolders().Of(10), [](HWND) {});
-        state.SetIterationTime(RunDialog(Whose::Bare, TheFolders().Of(10), [](HWND) {}));
-    }
+void AgainstBare(const std::string& topic, int rounds, double goal,
+                 const std::function<double(Whose)>& seconds) {
+    registerInTurn(
+        {topic, "bare with hook", rounds, goal}, [=] { return seconds(Whose::Bare); },
+        [=] { return seconds(Whose::Ours); });
 }
 
 } // namespace
 
 void RegisterFolderBenchmarks() {
-    benchmark::RegisterBenchmark("file dialog in a folder, first of the process", WarmUp)
-        ->UseManualTime()
-        ->Iterations(1);
     struct Size {
         int files;
         int rounds;
     };
     for (const auto [files, rounds] : {Size{10, 31}, Size{1000, 21}, Size{20000, 5}})
-        RegisterInTurn("file dialog, opened on " + std::to_string(files) + " files", rounds, kOpenGoal,
-                       [files = files](Whose whose) { return OpenOn(whose, files); });
-    RegisterInTurn("file dialog, folder change", 11, kActionGoal, ChangeFolder);
-    RegisterInTurn("file dialog, selection change", 11, kActionGoal, ChangeSelection);
-    RegisterInTurn("file dialog, select all of 1000 files", 3, kActionGoal, SelectAll);
+        AgainstBare("file dialog, opened on " + std::to_string(files) + " files", rounds, kOpenGoal,
+                    [files = files](Whose whose) { return OpenOn(whose, files); });
+    AgainstBare("file dialog, folder change", 11, kActionGoal, ChangeFolder);
+    AgainstBare("file dialog, selection change", 11, kActionGoal, ChangeSelection);
+    AgainstBare("file dialog, select all of 1000 files", 3, kActionGoal, SelectAll);
 }
