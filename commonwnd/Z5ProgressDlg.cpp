@@ -1,7 +1,7 @@
 #include "QVProgressDlg.h"
 
 #include "ProgressRules.h"
-#include "TextMailbox.h"
+#include "SpinLock.h"
 #include "res/ResourceIds.h"
 
 #include <LWSupportAPI.h>
@@ -9,6 +9,8 @@
 
 #include <atomic>
 #include <mutex>
+#include <string>
+#include <utility>
 
 namespace _qv_commonwnd {
 
@@ -21,9 +23,10 @@ constexpr int kLargestRange = 1000;
 constexpr int kBarStep = 1;
 
 int s_nDotCount = 0;      // dots at the next tick; goes on from one window to the next
-TextMailbox s_text;       // from a worker to the window
 DWORD s_windowThread = 0; // the thread of the running window, 0: none
-std::mutex s_textLock;    // of the way that a text takes; held no longer than a copy takes
+std::wstring s_newText;   // from a worker to the window; keeps its memory for the next
+bool s_bNewText = false;
+SpinLock s_textLock; // of the way that a text takes; held no longer than a copy takes
 
 // The static members are plain data that other threads store to while the window runs.
 template <class T> T Load(T& value) {
@@ -37,8 +40,8 @@ template <class T> void Store(T& value, T now) {
 // A worker that reports before the window is up stores its text at once: the window must not read it meanwhile.
 CString TakeText() {
     const std::lock_guard lock(s_textLock);
-    if (const auto text = s_text.Take())
-        CZ5ProgressDlg::strText = text->c_str();
+    if (std::exchange(s_bNewText, false))
+        CZ5ProgressDlg::strText = s_newText.c_str();
     return CZ5ProgressDlg::strText;
 }
 
@@ -88,10 +91,12 @@ void CZ5ProgressDlg::SetTextShow(wchar_t* text) {
     if (!text)
         return;
     const std::lock_guard lock(s_textLock);
-    if (s_windowThread == 0 || s_windowThread == ::GetCurrentThreadId())
+    if (s_windowThread == 0 || s_windowThread == ::GetCurrentThreadId()) {
         strText = text;
-    else
-        s_text.Put(text);
+        return;
+    }
+    s_newText = text;
+    s_bNewText = true;
 }
 
 void CZ5ProgressDlg::EndProgressWnd(int end) {
