@@ -1,6 +1,6 @@
 #pragma once
 
-#include "builder/CollectedNames.h"
+#include "LayerTexts.h"
 #include "builder/MemorySource.h"
 #include "builder/PsdBuilder.h"
 #include "builder/TableDecoder.h"
@@ -20,12 +20,21 @@ struct Reading {
     std::uint64_t reads = 0;
 };
 
+inline Names namesIn(_qv_commonclass::LayerTexts& texts) {
+    CStringArray array;
+    texts.moveTo(array);
+    Names names;
+    for (INT_PTR i = 0; i < array.GetSize(); ++i)
+        names.emplace_back(reinterpret_cast<const char16_t*>(array[i].GetString()), array[i].GetLength());
+    return names;
+}
+
 inline Reading readFrom(_qv_commonclass::psd::ByteSource& source) {
     Reading reading;
-    CollectedNames collected;
-    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), collected);
+    _qv_commonclass::LayerTexts texts;
+    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), texts);
     if (reading.result == ReadResult::Done)
-        reading.names = std::move(collected.names);
+        reading.names = namesIn(texts);
     return reading;
 }
 
