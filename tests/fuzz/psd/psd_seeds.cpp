@@ -1,6 +1,6 @@
 // Writes the documents that the fuzzing of the layer-name reader starts from: every structure the reader knows.
 //   psd_seeds FOLDER
-#include "PsdReading.h"
+#include "builder/Everything.h"
 
 #include <filesystem>
 #include <fstream>

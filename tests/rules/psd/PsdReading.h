@@ -1,8 +1,8 @@
 #pragma once
 
 #include "LayerTexts.h"
+#include "builder/Everything.h"
 #include "builder/MemorySource.h"
-#include "builder/PsdBuilder.h"
 #include "builder/TableDecoder.h"
 #include "psd/LayerNames.h"
 #include <ostream>
@@ -49,9 +49,6 @@ inline Reading readBytes(const Bytes& bytes) {
 inline Reading readDocument(const Document& document) {
     return readBytes(build(document).bytes);
 }
-
-// A document that has one of everything: groups in groups, masks, blocks before and after the name.
-Document everything();
 
 } // namespace psdtest
 

@@ -1,4 +1,4 @@
-#include "PsdReading.h"
+#include "Everything.h"
 
 namespace psdtest {
 
