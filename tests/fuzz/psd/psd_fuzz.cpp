@@ -70,8 +70,8 @@ void readAndCheck(ByteSource& source) {
     psdtest::CollectedNames collected;
     readLayerNames(source, AnyDecoder(), collected);
     check(processorSeconds() - begin < longestSeconds);
-    check(collected.names.size() <= 32768 && collected.totalUnits <= kMaxNameUnitsTotal);
-    for (const std::u16string& name : collected.names)
+    check(collected.views().size() <= 32768 && collected.totalUnits() <= kMaxNameUnitsTotal);
+    for (const std::u16string_view name : collected.views())
         check(name.size() <= kMaxNameUnits && isWellFormed(name));
 }
 

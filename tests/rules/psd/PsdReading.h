@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LayerTexts.h"
+#include "builder/CollectedNames.h"
 #include "builder/Everything.h"
 #include "builder/MemorySource.h"
 #include "builder/TableDecoder.h"
@@ -20,21 +20,12 @@ struct Reading {
     std::uint64_t reads = 0;
 };
 
-inline Names namesIn(_qv_commonclass::LayerTexts& texts) {
-    CStringArray array;
-    texts.moveTo(array);
-    Names names;
-    for (INT_PTR i = 0; i < array.GetSize(); ++i)
-        names.emplace_back(reinterpret_cast<const char16_t*>(array[i].GetString()), array[i].GetLength());
-    return names;
-}
-
 inline Reading readFrom(_qv_commonclass::psd::ByteSource& source) {
     Reading reading;
-    _qv_commonclass::LayerTexts texts;
-    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), texts);
+    CollectedNames collected;
+    reading.result = _qv_commonclass::psd::readLayerNames(source, TableDecoder(), collected);
     if (reading.result == ReadResult::Done)
-        reading.names = namesIn(texts);
+        reading.names = collected.names();
     return reading;
 }
 

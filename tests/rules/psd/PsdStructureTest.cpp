@@ -182,23 +182,6 @@ TEST(PsdStructure, TakesTheFirstOfTwoLayerBlocks) {
     EXPECT_EQ(readDocument(document).names, (Names{u"other", u"names"}));
 }
 
-// More text than goes straight into the caller's texts: what waits comes behind, in the same order.
-TEST(PsdStructure, LongTextsKeepTheirOrder) {
-    constexpr int kLayers = 150;
-    constexpr std::size_t kUnits = 4000;
-    static_assert(kLayers * kUnits > 2 * _qv_commonclass::LayerTexts::kStraightUnits);
-    Document document;
-    Names expected;
-    for (int i = 0; i < kLayers; ++i) {
-        const std::u16string name(kUnits - static_cast<std::size_t>(i), static_cast<char16_t>(u'A' + i));
-        document.layers.push_back(layer(name));
-        expected.push_back(name);
-    }
-    const Reading reading = readDocument(document);
-    EXPECT_EQ(reading.result, ReadResult::Done);
-    EXPECT_TRUE(reading.names == expected); // too long to print
-}
-
 } // namespace
 
 } // namespace psdtest
