@@ -92,8 +92,9 @@ HTREEITEM CQVDirTreeImpl::Insert(HTREEITEM parent, HTREEITEM after, FolderEntry&
     insert.itemex.cChildren = file ? 0 : 1;
     insert.itemex.iImage = insert.itemex.iSelectedImage = static_cast<int>(entry.icon);
     insert.itemex.lParam = file ? kFileItem : 0;
+    // Straight to the control: nobody on the way has a use for the ten thousand items of a large folder.
     const auto item = reinterpret_cast<HTREEITEM>(
-        m_tree.SendMessage(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+        m_tree.DefWindowProc(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
     const bool special = !entry.path.empty() || (entry.kind != FolderKind::Path && !file);
     if (item && special)
         m_specials[item] = {entry.kind, NormalFolderPath(entry.path), std::move(entry.pidl)};

@@ -52,6 +52,7 @@ class QVCOMMONCTRL_API CQVDirTreeCtrl : public CQVTreeCtrl {
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
   private:
+    friend class CQVDirTreeImpl;
     class CQVDirTreeImpl* m_pImpl;
 };
 
