@@ -43,9 +43,9 @@ struct PlatformLoss {
 
 // Runs an action ten times to warm up, takes a census, runs it as often as told and expects every count
 // unchanged. The heap may have grown by less than one block in two runs: what is lost in each run is found,
-// one-time caches are not. What the platform makes once at a moment of its own (an event for the first two threads
-// that meet at a lock) falls into one such series and not into the next: when a series leaves something, another one
-// of the same length must leave nothing.
+// one-time caches are not. An event that the platform makes for the first two threads that meet at a lock falls into
+// one such series and not into the next: when a series leaves kernel handles and nothing else, another one of the same
+// length must leave nothing at all.
 void expectNoLeak(int runs, const std::function<void()>& action, const PlatformLoss& loss = {});
 
 inline constexpr int kWarmUpRuns = 10;

@@ -142,12 +142,24 @@ TEST(LeakGuard, WhatIsLostInEachRunIsFound) {
     EXPECT_NONFATAL_FAILURE(loseABrushInEachRun(), "brush +20");
 }
 
-TEST(LeakGuard, WhatIsMadeOnceIsNoLoss) {
+TEST(LeakGuard, HandleThatIsMadeOnceIsNoLoss) {
     int run = 0;
     expectNoLeak(50, [&run] {
         if (++run == kWarmUpRuns + 10)
-            CreateSolidBrush(RGB(8, 8, 8)); // as a cache that is filled late
+            CreateEventW(nullptr, FALSE, FALSE, nullptr); // as of a lock that threads first meet at
     });
+}
+
+void makeABrushLate() {
+    int run = 0;
+    expectNoLeak(20, [&run] {
+        if (++run == kWarmUpRuns + 10)
+            CreateSolidBrush(RGB(8, 8, 8));
+    });
+}
+
+TEST(LeakGuard, AnythingElseThatIsMadeOnceIsFound) {
+    EXPECT_NONFATAL_FAILURE(makeABrushLate(), "brush +1");
 }
 
 } // namespace
