@@ -48,16 +48,6 @@ class FileDialogBar : public FileDialog {
             m_folder.file(name, "x");
     }
 
-    static HWND List(Driver& user, HWND frame, int rows) {
-        HWND list = nullptr;
-        user.waitFor("the list", [&] {
-            list = qvtest::findDescendant(frame, L"SysListView32");
-            return list && user.send(list, LVM_GETITEMCOUNT) == rows;
-        });
-        user.settle();
-        return list;
-    }
-
     // Clicks the button of a command.
     static void Press(Driver& user, HWND frame, int command) {
         const HWND bar = ViewBar(frame);

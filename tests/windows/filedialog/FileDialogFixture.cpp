@@ -37,6 +37,16 @@ HWND FileDialog::Frame(Driver& user) {
     return frame;
 }
 
+HWND FileDialog::List(Driver& user, HWND frame, int rows) {
+    HWND list = nullptr;
+    user.waitFor("the list", [&] {
+        list = qvtest::findDescendant(frame, L"SysListView32");
+        return list && user.send(list, LVM_GETITEMCOUNT) == rows;
+    });
+    user.settle();
+    return list;
+}
+
 HWND FileDialog::NameEdit(HWND frame) {
     const HWND combo = ::GetDlgItem(frame, kFileNameCombo);
     return combo ? qvtest::findDescendant(combo, L"Edit") : nullptr;

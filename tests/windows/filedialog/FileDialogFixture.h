@@ -69,6 +69,8 @@ class FileDialog : public testing::Test {
     // The system dialog's frame, once its file-name box is there.
     static HWND Frame(Driver& user);
     static HWND NameEdit(HWND frame);
+    // The shell's list, once it shows so many rows.
+    static HWND List(Driver& user, HWND frame, int rows);
     // Puts a text into the file-name box and presses Open or Save.
     static void Confirm(Driver& user, const std::wstring& name);
     static void ChooseFilter(Driver& user, HWND frame, int index);

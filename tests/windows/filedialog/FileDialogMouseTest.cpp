@@ -34,15 +34,6 @@ class FileDialogMouse : public FileDialog {
         m_folder.file(L"b.avi", "x");
         m_folder.file(L"c.txt", "x");
     }
-    static HWND List(Driver& user, HWND frame, int rows) {
-        HWND list = nullptr;
-        user.waitFor("the list", [&] {
-            list = qvtest::findDescendant(frame, L"SysListView32");
-            return list && user.send(list, LVM_GETITEMCOUNT) == rows;
-        });
-        user.settle();
-        return list;
-    }
     static CPoint Label(Driver& user, HWND list, int row) {
         CRect label;
         user.onUi([&] { ListView_GetItemRect(list, row, &label, LVIR_LABEL); });
