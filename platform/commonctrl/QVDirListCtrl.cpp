@@ -72,7 +72,7 @@ BOOL CQVDirListCtrl::SetPathName(LPCWSTR folder) {
         SetUpColumns();
         const RedrawPause pause(m_hWnd);
         DeleteAllItems();
-        const auto& entries = listing->Entries();
+        const auto entries = listing->Take();
         SendMessage(LVM_SETITEMCOUNT, entries.size()); // room at once, not bit by bit
         for (std::size_t i = 0; i < entries.size(); ++i)
             InsertEntry(static_cast<int>(i), entries[i]);

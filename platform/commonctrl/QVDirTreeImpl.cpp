@@ -1,9 +1,13 @@
 #include "QVDirTreeImpl.h"
 
 #include "QVDirIcons.h"
+#include "QVFolderOrder.h"
 #include "QVRedrawPause.h"
 #include "QVShellEntries.h"
 #include "QVSkin.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace _qv_commonctrl {
 
@@ -11,7 +15,25 @@ namespace {
 
 // How long a call may wait for a folder before it answers without it.
 constexpr DWORD kOpenPatienceMs = 500;
-constexpr LPARAM kFileItem = 1; // lParam of items that are no folders
+
+// An item's lParam: whether it is no folder, and above that its place of insertion.
+constexpr LPARAM kFileBit = 1;
+constexpr int kPlaceShift = 1;
+
+LPARAM LParamOf(const FolderEntry& entry, LPARAM place) {
+    return place << kPlaceShift | (entry.kind == FolderKind::File ? kFileBit : 0);
+}
+
+int CALLBACK CompareBySortKey(LPARAM a, LPARAM b, LPARAM context) {
+    const auto& keys = *reinterpret_cast<const std::vector<std::string>*>(context);
+    const auto first = static_cast<std::size_t>(a >> kPlaceShift);
+    const auto second = static_cast<std::size_t>(b >> kPlaceShift);
+    if (first < keys.size() && second < keys.size()) {
+        if (const int order = keys[first].compare(keys[second]); order != 0)
+            return order;
+    }
+    return first < second ? -1 : first > second;
+}
 
 } // namespace
 
@@ -33,7 +55,7 @@ HTREEITEM CQVDirTreeImpl::Next(UINT code, HTREEITEM item) const {
 FolderKind CQVDirTreeImpl::KindOf(HTREEITEM item) const {
     if (const auto special = m_specials.find(item); special != m_specials.end())
         return special->second.kind;
-    return m_tree.GetItemData(item) == kFileItem ? FolderKind::File : FolderKind::Path;
+    return m_tree.GetItemData(item) & kFileBit ? FolderKind::File : FolderKind::Path;
 }
 
 std::wstring CQVDirTreeImpl::TextOf(HTREEITEM item) const {
@@ -75,14 +97,14 @@ bool CQVDirTreeImpl::SetDesktop() {
         root.path = path;
     root.kind = FolderKind::Desktop;
     root.icon = FolderIcon::Desktop;
-    const HTREEITEM item = Insert(TVI_ROOT, TVI_LAST, root);
+    const HTREEITEM item = Insert(TVI_ROOT, TVI_LAST, root, kNoPlace);
     if (!item || !StartListing(item, AfterListing::Expand))
         return false;
     EnsureListed(item, GetTickCount64() + kOpenPatienceMs);
     return true;
 }
 
-HTREEITEM CQVDirTreeImpl::Insert(HTREEITEM parent, HTREEITEM after, FolderEntry& entry) {
+HTREEITEM CQVDirTreeImpl::Insert(HTREEITEM parent, HTREEITEM after, FolderEntry& entry, LPARAM place) {
     const bool file = entry.kind == FolderKind::File;
     TVINSERTSTRUCTW insert = {};
     insert.hParent = parent;
@@ -91,7 +113,7 @@ HTREEITEM CQVDirTreeImpl::Insert(HTREEITEM parent, HTREEITEM after, FolderEntry&
     insert.itemex.pszText = entry.name.data();
     insert.itemex.cChildren = file ? 0 : 1;
     insert.itemex.iImage = insert.itemex.iSelectedImage = static_cast<int>(entry.icon);
-    insert.itemex.lParam = file ? kFileItem : 0;
+    insert.itemex.lParam = LParamOf(entry, place);
     // Straight to the control: nobody on the way has a use for the ten thousand items of a large folder.
     const auto item = reinterpret_cast<HTREEITEM>(
         m_tree.DefWindowProc(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
@@ -99,11 +121,6 @@ HTREEITEM CQVDirTreeImpl::Insert(HTREEITEM parent, HTREEITEM after, FolderEntry&
     if (item && special)
         m_specials[item] = {entry.kind, NormalFolderPath(entry.path), std::move(entry.pidl)};
     return item;
-}
-
-void CQVDirTreeImpl::InsertAll(HTREEITEM parent, std::vector<FolderEntry>& entries) {
-    for (FolderEntry& entry : entries)
-        Insert(parent, TVI_LAST, entry); // the control knows its last child; a neighbour it would look for
 }
 
 void CQVDirTreeImpl::SetHasChildren(HTREEITEM item, bool has) {
@@ -114,12 +131,19 @@ void CQVDirTreeImpl::SetHasChildren(HTREEITEM item, bool has) {
     m_tree.SetItem(&record);
 }
 
-bool CQVDirTreeImpl::StartListing(HTREEITEM item, AfterListing after) {
+DirTreePending* CQVDirTreeImpl::PendingOf(HTREEITEM item) {
     for (auto& [id, pending] : m_pending) {
-        if (pending.item == item) {
-            pending.expand = pending.expand || after == AfterListing::Expand;
-            return true;
-        }
+        if (pending.item == item)
+            return &pending;
+    }
+    return nullptr;
+}
+
+bool CQVDirTreeImpl::StartListing(HTREEITEM item, AfterListing after) {
+    const bool expand = after == AfterListing::Expand;
+    if (DirTreePending* const pending = PendingOf(item)) {
+        pending->expand = pending->expand || expand;
+        return true;
     }
     FolderRequest request;
     request.kind = KindOf(item);
@@ -131,13 +155,18 @@ bool CQVDirTreeImpl::StartListing(HTREEITEM item, AfterListing after) {
     auto listing = FolderListing::Start(std::move(request), {m_tree.m_hWnd, ListedMessage(), id});
     if (!listing)
         return false;
-    m_pending[id] = {item, std::move(listing), after == AfterListing::Expand};
+    DirTreePending& pending = m_pending[id];
+    pending.item = item;
+    pending.listing = std::move(listing);
+    pending.expand = expand;
     return true;
 }
 
 bool CQVDirTreeImpl::OnExpanding(HTREEITEM item) {
     if (m_listed.contains(item) || KindOf(item) == FolderKind::File)
         return false;
+    if (const DirTreePending* const pending = PendingOf(item); pending && pending->begun)
+        return false; // what there is so far can be shown
     return StartListing(item, AfterListing::Expand);
 }
 
@@ -158,25 +187,60 @@ void CQVDirTreeImpl::OnListed(UINT id) {
     const auto found = m_pending.find(id);
     if (found == m_pending.end()) // the item is gone, or a call has waited for the listing
         return;
-    Pending pending = std::move(found->second);
-    m_pending.erase(found);
-    Apply(pending);
+    DirTreePending& pending = found->second;
+    const HTREEITEM item = pending.item;
+    const RedrawPause pause(m_tree.m_hWnd);
+    const bool ended = pending.listing->Wait(0); // asked before the entries are taken: then these are all
+    InsertTaken(pending);
+    const bool some = Next(TVGN_CHILD, item) != nullptr;
+    // A listing that failed leaves the expander as it is: the folder may answer the next time.
+    const bool failed = ended && !pending.listing->Succeeded();
+    const bool expand =
+        some && !failed && std::exchange(pending.expand, false); // from then on it is the user's
+    if (ended)
+        m_pending.erase(found);
+    if (ended && !failed) {
+        m_listed.insert(item);
+        SetHasChildren(item, some);
+    }
+    if (expand)
+        m_tree.Expand(item, TVE_EXPAND); // last: a host that hears of it may do anything
 }
 
-void CQVDirTreeImpl::Apply(Pending& pending) {
-    pending.listing->Wait(INFINITE); // it has ended: this makes what it wrote visible here
+void CQVDirTreeImpl::InsertTaken(DirTreePending& pending) {
+    std::vector<FolderEntry> entries = pending.listing->Take();
+    if (entries.empty())
+        return;
     const HTREEITEM item = pending.item;
-    const bool listed = pending.listing->Succeeded();
-    std::vector<FolderEntry>& entries = pending.listing->Entries();
-    const RedrawPause pause(m_tree.m_hWnd);
-    InsertAll(item, entries);
-    if (listed)
-        m_listed.insert(item);
-    if (!listed)
-        return; // the expander stays: the folder may answer the next time
-    SetHasChildren(item, !entries.empty());
-    if (pending.expand && !entries.empty())
-        m_tree.Expand(item, TVE_EXPAND);
+    const bool first = Next(TVGN_CHILD, item) == nullptr;
+    if (!first && !pending.begun)
+        NoteChildren(pending);
+    pending.begun = true;
+    for (FolderEntry& entry : entries) {
+        if (pending.former.contains(entry.path.empty() ? entry.name : NormalFolderPath(entry.path)))
+            continue;
+        const auto place = static_cast<LPARAM>(pending.sortKeys.size());
+        pending.sortKeys.push_back(std::move(entry.sortKey));
+        Insert(item, TVI_LAST, entry,
+               place); // the control knows its last child; a neighbour it would look for
+    }
+    if (first)
+        return;
+    TVSORTCB sort = {item, &CompareBySortKey, reinterpret_cast<LPARAM>(&pending.sortKeys)};
+    m_tree.SendMessage(TVM_SORTCHILDRENCB, 0, reinterpret_cast<LPARAM>(&sort));
+}
+
+void CQVDirTreeImpl::NoteChildren(DirTreePending& pending) {
+    for (HTREEITEM child = Next(TVGN_CHILD, pending.item); child; child = Next(TVGN_NEXT, child)) {
+        FolderEntry entry;
+        entry.name = TextOf(child);
+        entry.kind = KindOf(child);
+        const auto special = m_specials.find(child);
+        const bool hasPath = special != m_specials.end() && !special->second.path.empty();
+        pending.former.insert(hasPath ? special->second.path : entry.name);
+        m_tree.SetItemData(child, LParamOf(entry, static_cast<LPARAM>(pending.sortKeys.size())));
+        pending.sortKeys.push_back(FolderSortKey(entry));
+    }
 }
 
 bool CQVDirTreeImpl::EnsureListed(HTREEITEM item, ULONGLONG deadline) {
@@ -184,15 +248,12 @@ bool CQVDirTreeImpl::EnsureListed(HTREEITEM item, ULONGLONG deadline) {
         return true;
     if (!StartListing(item, AfterListing::Nothing))
         return false;
-    for (auto& [id, pending] : m_pending) {
-        if (pending.item != item)
-            continue;
-        const ULONGLONG now = GetTickCount64();
-        if (!pending.listing->Wait(deadline > now ? static_cast<DWORD>(deadline - now) : 0))
-            return false;
-        OnListed(UINT(id)); // a copy: the entry goes
-        break;
-    }
+    const auto pending = std::find_if(m_pending.begin(), m_pending.end(),
+                                      [item](const auto& entry) { return entry.second.item == item; });
+    const ULONGLONG now = GetTickCount64();
+    if (!pending->second.listing->Wait(deadline > now ? static_cast<DWORD>(deadline - now) : 0))
+        return false;
+    OnListed(UINT(pending->first)); // a copy: the entry goes
     return m_listed.contains(item);
 }
 
@@ -202,16 +263,21 @@ void CQVDirTreeImpl::ListAgain(HTREEITEM item) {
     const bool expanded = m_tree.GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED;
     const RedrawPause pause(m_tree.m_hWnd);
     m_tree.Expand(item, TVE_COLLAPSE | TVE_COLLAPSERESET);
-    m_listed.erase(item);
+    Forget(item);
     SetHasChildren(item, true);
     if (expanded)
         StartListing(item, AfterListing::Expand);
 }
 
-void CQVDirTreeImpl::OnItemDeleted(HTREEITEM item) {
+// A listing under way ends without effect.
+void CQVDirTreeImpl::Forget(HTREEITEM item) {
     m_listed.erase(item);
-    m_specials.erase(item);
     std::erase_if(m_pending, [item](const auto& entry) { return entry.second.item == item; });
+}
+
+void CQVDirTreeImpl::OnItemDeleted(HTREEITEM item) {
+    Forget(item);
+    m_specials.erase(item);
 }
 
 void CQVDirTreeImpl::OnWindowGone() {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "QVDirCtrl.h"
-#include "QVFolderListing.h"
+#include "QVDirTreePending.h"
 
 #include <map>
 #include <unordered_map>
@@ -41,21 +41,19 @@ class CQVDirTreeImpl {
         std::wstring path;
         Pidl pidl;
     };
-    struct Pending {
-        HTREEITEM item;
-        std::unique_ptr<FolderListing> listing;
-        bool expand;
-    };
     enum class AfterListing { Nothing, Expand };
+    static constexpr LPARAM kNoPlace = (LPARAM{1} << 62) - 1; // inserted outside a listing
 
     FolderKind KindOf(HTREEITEM item) const;
     std::wstring TextOf(HTREEITEM item) const;
     HTREEITEM Next(UINT code, HTREEITEM item) const;
-    HTREEITEM Insert(HTREEITEM parent, HTREEITEM after, FolderEntry& entry);
-    void InsertAll(HTREEITEM parent, std::vector<FolderEntry>& entries);
+    HTREEITEM Insert(HTREEITEM parent, HTREEITEM after, FolderEntry& entry, LPARAM place);
     void SetHasChildren(HTREEITEM item, bool has);
     bool StartListing(HTREEITEM item, AfterListing after);
-    void Apply(Pending& pending);
+    void Forget(HTREEITEM item);
+    DirTreePending* PendingOf(HTREEITEM item);
+    void InsertTaken(DirTreePending& pending);
+    void NoteChildren(DirTreePending& pending);
     bool EnsureListed(HTREEITEM item, ULONGLONG deadline);
     HTREEITEM FindChild(HTREEITEM parent, const std::wstring& text, const std::wstring& path) const;
     HTREEITEM ChildOrNew(HTREEITEM parent, const std::wstring& text, const std::wstring& path,
@@ -66,7 +64,7 @@ class CQVDirTreeImpl {
     FolderContent m_content = FolderContent::FoldersOnly;
     std::unordered_map<HTREEITEM, Special> m_specials;
     std::unordered_set<HTREEITEM> m_listed;
-    std::map<UINT, Pending> m_pending;
+    std::map<UINT, DirTreePending> m_pending;
     UINT m_lastId = 0;
     HIMAGELIST m_icons = nullptr;
 };

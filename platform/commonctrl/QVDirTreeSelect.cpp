@@ -56,7 +56,7 @@ HTREEITEM CQVDirTreeImpl::ChildOrNew(HTREEITEM parent, const std::wstring& text,
         entry.path = path;
         entry.icon = FolderIcon::Drive;
     }
-    const HTREEITEM item = Insert(parent, TVI_SORT, entry);
+    const HTREEITEM item = Insert(parent, TVI_SORT, entry, kNoPlace);
     SetHasChildren(parent, true);
     return item;
 }

@@ -1,6 +1,7 @@
 #include "QVFolderEntries.h"
 
 #include "QVFolderHook.h"
+#include "QVFolderOrder.h"
 #include "QVShellEntries.h"
 
 #include <algorithm>
@@ -32,9 +33,9 @@ FolderEntry EntryOf(const WIN32_FIND_DATAW& data) {
     return entry;
 }
 
-bool ListPath(const std::wstring& folder, FolderContent content, std::vector<FolderEntry>& entries) {
+bool ListPath(const std::wstring& folder, FolderContent content, const FolderSink& sink) {
     bool answered = false;
-    const bool listed = AskFolderLister(folder, content, entries, answered);
+    const bool listed = AskFolderLister(folder, content, sink, answered);
     if (answered)
         return listed;
     WIN32_FIND_DATAW data = {};
@@ -47,69 +48,47 @@ bool ListPath(const std::wstring& folder, FolderContent content, std::vector<Fol
         if (IsDotName(data.cFileName) || (data.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) ||
             (!folderEntry && content == FolderContent::FoldersOnly))
             continue;
-        entries.push_back(EntryOf(data));
+        sink(EntryOf(data));
     } while (FindNextFileW(search, &data));
     const bool complete = GetLastError() == ERROR_NO_MORE_FILES;
     FindClose(search);
     return complete;
 }
 
-// A key that compares as bytes as the names compare for the user: made once a name, it makes sorting cheap.
-std::string SortKey(const std::wstring& name) {
-    constexpr DWORD kPlain = LCMAP_SORTKEY | NORM_IGNORECASE;
-    for (const DWORD flags : {kPlain | SORT_DIGITSASNUMBERS, kPlain}) {
-        char key[1024];
-        const int length =
-            LCMapStringEx(LOCALE_NAME_USER_DEFAULT, flags, name.c_str(), static_cast<int>(name.size()),
-                          reinterpret_cast<LPWSTR>(key), sizeof(key), nullptr, nullptr, 0);
-        if (length > 0)
-            return std::string(key, static_cast<std::size_t>(length));
-    }
-    return std::string(reinterpret_cast<const char*>(name.data()), name.size() * sizeof(wchar_t));
-}
-
-void Sort(std::vector<FolderEntry>& entries) {
-    struct Keyed {
-        bool file;
-        std::string key;
-        std::size_t index;
-        bool operator<(const Keyed& other) const {
-            return file != other.file ? other.file : key != other.key ? key < other.key : index < other.index;
-        }
-    };
-    std::vector<Keyed> order;
-    order.reserve(entries.size());
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        order.push_back({entries[i].kind == FolderKind::File, SortKey(entries[i].name), i});
-    std::sort(order.begin(), order.end());
-    std::vector<FolderEntry> sorted;
-    sorted.reserve(entries.size());
-    for (const Keyed& keyed : order)
-        sorted.push_back(std::move(entries[keyed.index]));
-    entries.swap(sorted);
+// Entries of the upper name space, which come all at once.
+void GiveAll(std::vector<FolderEntry>& entries, const FolderSink& sink) {
+    for (FolderEntry& entry : entries)
+        sink(std::move(entry));
 }
 
 } // namespace
 
-bool ListFolder(const FolderRequest& request, std::vector<FolderEntry>& entries) {
+bool ListFolder(const FolderRequest& request, const FolderSink& sink) {
+    const FolderSink byName = [&sink](FolderEntry&& entry) {
+        entry.sortKey = FolderSortKey(entry);
+        sink(std::move(entry));
+    };
+    std::vector<FolderEntry> entries;
+    bool listed = false;
     switch (request.kind) {
     case FolderKind::Desktop:
-        return ListDesktop(request.content, entries); // the shell's own order: computer before documents
+        listed = ListDesktop(request.content, entries); // the shell's own order: computer before documents
+        GiveAll(entries, sink);
+        return listed;
     case FolderKind::Computer:
-        return ListDrives(entries);
+        listed = ListDrives(entries);
+        GiveAll(entries, sink);
+        return listed;
     case FolderKind::Virtual:
-        if (!ListShellFolder(request.pidl.get(), request.content, entries))
-            return false;
-        break;
+        listed = ListShellFolder(request.pidl.get(), request.content, entries);
+        GiveAll(entries, byName);
+        return listed;
     case FolderKind::Path:
-        if (!ListPath(request.path, request.content, entries))
-            return false;
-        break;
+        return ListPath(request.path, request.content, byName);
     case FolderKind::File:
-        return false;
+        break;
     }
-    Sort(entries);
-    return true;
+    return false;
 }
 
 std::wstring JoinPath(const std::wstring& folder, const std::wstring& name) {

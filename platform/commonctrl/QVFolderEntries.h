@@ -6,6 +6,7 @@
 #include <shlobj.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -36,6 +37,7 @@ struct FolderEntry {
     FolderIcon icon = FolderIcon::Folder;
     uint64_t size = 0; // bytes; files only
     FILETIME modified = {};
+    std::string sortKey; // empty where the shell's own order holds
 };
 
 enum class FolderContent { FoldersAndFiles = 0, FoldersOnly = 1 };
@@ -48,9 +50,12 @@ struct FolderRequest {
     FolderContent content = FolderContent::FoldersOnly;
 };
 
-// The entries of a folder: folders before files, each in the user's sorting order with numbers by value. Hidden
-// entries are left out. FALSE when the folder cannot be listed.
-bool ListFolder(const FolderRequest& request, std::vector<FolderEntry>& entries);
+// Takes one entry after the other, while the folder is being read.
+using FolderSink = std::function<void(FolderEntry&& entry)>;
+
+// Gives the entries of a folder to the sink in the order in which the system reads them, each with its sort key. Hidden
+// entries are left out. FALSE when the folder cannot be listed, or not to its end.
+bool ListFolder(const FolderRequest& request, const FolderSink& sink);
 
 // The whole path of a name below a folder (a drive root ends with a back-slash already).
 std::wstring JoinPath(const std::wstring& folder, const std::wstring& name);

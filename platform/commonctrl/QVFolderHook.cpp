@@ -3,6 +3,7 @@
 #include "QVDirCtrl.h"
 
 #include <atomic>
+#include <exception>
 
 namespace _qv_commonctrl {
 
@@ -10,31 +11,36 @@ namespace {
 
 std::atomic<QVFolderLister> g_lister = nullptr;
 
-struct Sink {
-    std::vector<FolderEntry>* entries;
+struct Asked {
+    const FolderSink* sink;
     FolderContent content;
+    bool complete = true; // memory did not run out on the way
 };
 
 void CALLBACK AddEntry(void* context, LPCWSTR name, BOOL isFolder) {
-    const auto* sink = static_cast<Sink*>(context);
-    if (!name || !*name || (!isFolder && sink->content == FolderContent::FoldersOnly))
+    auto* const asked = static_cast<Asked*>(context);
+    if (!name || !*name || (!isFolder && asked->content == FolderContent::FoldersOnly))
         return;
-    FolderEntry entry;
-    entry.name = name;
-    entry.kind = isFolder ? FolderKind::Path : FolderKind::File;
-    entry.icon = isFolder ? FolderIcon::Folder : FolderIcon::File;
-    sink->entries->push_back(std::move(entry));
+    try {
+        FolderEntry entry;
+        entry.name = name;
+        entry.kind = isFolder ? FolderKind::Path : FolderKind::File;
+        entry.icon = isFolder ? FolderIcon::Folder : FolderIcon::File;
+        (*asked->sink)(std::move(entry));
+    } catch (const std::exception&) { // the host's code on the way back knows no exceptions of ours
+        asked->complete = false;
+    }
 }
 
 } // namespace
 
-bool AskFolderLister(const std::wstring& folder, FolderContent content, std::vector<FolderEntry>& entries,
+bool AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink,
                      bool& answered) {
     const QVFolderLister lister = g_lister;
-    Sink sink = {&entries, content};
-    const QVListerAnswer answer = lister ? lister(folder.c_str(), &AddEntry, &sink) : QVLISTER_ASK_SYSTEM;
+    Asked asked = {&sink, content};
+    const QVListerAnswer answer = lister ? lister(folder.c_str(), &AddEntry, &asked) : QVLISTER_ASK_SYSTEM;
     answered = answer != QVLISTER_ASK_SYSTEM;
-    return answer == QVLISTER_LISTED;
+    return answer == QVLISTER_LISTED && asked.complete;
 }
 
 QVFolderLister QV_SetFolderLister(QVFolderLister lister) {

@@ -6,7 +6,7 @@
 namespace _qv_commonctrl {
 
 // Asks the host. `answered` is FALSE when there is no lister or it leaves the folder to the system.
-bool AskFolderLister(const std::wstring& folder, FolderContent content, std::vector<FolderEntry>& entries,
+bool AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink,
                      bool& answered);
 
 } // namespace _qv_commonctrl

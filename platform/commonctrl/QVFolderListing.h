@@ -8,25 +8,24 @@ namespace _qv_commonctrl {
 
 class FolderListing {
   public:
-    // Null when no thread can be had.
+    // Null when no thread can be had. The report comes at the end, and in a large folder also on the way, when there
+    // are entries to take; the longer it takes the rarer.
     static std::unique_ptr<FolderListing> Start(FolderRequest request, const TaskReport& report);
+    ~FolderListing();
 
-    // Whether the listing has ended, at once or within the time. Only then may the others be asked.
+    // Whether the listing has ended, at once or within the time.
     bool Wait(DWORD milliseconds) const { return m_task->Wait(milliseconds); }
-    bool Succeeded() const { return m_result->succeeded; }
-    const std::vector<FolderEntry>& Entries() const { return m_result->entries; }
-    std::vector<FolderEntry>& Entries() { return m_result->entries; }
+    // Whether the folder was listed to its end. To be asked after the end only.
+    bool Succeeded() const;
+    // The entries that were read and not taken yet, in their order. May be called at any time.
+    std::vector<FolderEntry> Take();
 
   private:
-    struct Result {
-        FolderRequest request;
-        std::vector<FolderEntry> entries;
-        bool succeeded = false;
-    };
+    class Reading;
 
-    FolderListing() = default;
+    FolderListing();
 
-    std::shared_ptr<Result> m_result;
+    std::shared_ptr<Reading> m_reading;
     std::shared_ptr<BackgroundTask> m_task;
 };
 

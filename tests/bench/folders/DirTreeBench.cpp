@@ -98,9 +98,10 @@ double Ours() {
         return 0;
     tree.UpdateWindow();
     const HTREEITEM many = tree.GetChildItem(top);
+    const UINT before = tree.GetCount();
     const auto start = Clock::now();
     tree.Expand(many, TVE_EXPAND);
-    if (!WaitFor([&] { return IsOpen(tree, many); }))
+    if (!WaitFor([&] { return IsOpen(tree, many) && tree.GetCount() == before + kFolders; }))
         return 0;
     tree.UpdateWindow();
     const double seconds = SecondsSince(start);

@@ -1,85 +1,17 @@
 // The directory tree and list over real folders.
-#include "SkinFixture.h"
+#include "DirTreeFixture.h"
 
 #include "LeakGuard.h"
 #include "ModalScript.h"
 #include "Picture.h"
 #include "TempFolder.h"
 
-#include <atomic>
-
-using namespace _qv_commonctrl;
 using qvtest::Driver;
 using qvtest::ModalScript;
 using qvtest::Picture;
 using qvtest::TempFolder;
 
 namespace {
-
-constexpr DWORD kTreeStyle =
-    WS_CHILD | WS_VISIBLE | WS_BORDER | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT;
-
-// Blocks the listing of folders whose path ends with \dead until it is let go.
-class DeadFolder {
-  public:
-    DeadFolder() {
-        s_release = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-        s_running = 0;
-        QV_SetFolderLister(&List);
-    }
-    ~DeadFolder() {
-        SetEvent(s_release);
-        while (s_running)
-            Sleep(5);
-        QV_SetFolderLister(nullptr);
-        CloseHandle(s_release);
-    }
-
-  private:
-    static QVListerAnswer CALLBACK List(LPCWSTR folder, QVAddFolderEntry add, void* context) {
-        if (!std::wstring(folder).ends_with(L"\\dead"))
-            return QVLISTER_ASK_SYSTEM;
-        ++s_running;
-        WaitForSingleObject(s_release, 30000);
-        add(context, L"late", TRUE);
-        --s_running;
-        return QVLISTER_LISTED;
-    }
-    static inline HANDLE s_release = nullptr;
-    static inline std::atomic<int> s_running = 0;
-};
-
-class DirTree : public SkinFixture {
-  protected:
-    void SetUp() override {
-        SkinFixture::SetUp();
-        ASSERT_TRUE(m_tree.Create(kTreeStyle, CRect(20, 20, 380, 280), &m_host, 0));
-        m_tree.SetFont(QV_GetSysFont(QVFONT_UI));
-        m_tree.SetTreeCtrl(1);
-        ASSERT_TRUE(m_tree.SetDesktopFolder());
-        m_tree.SelectItem(m_tree.GetRootItem());
-        ASSERT_TRUE(
-            TestHost::PumpUntil([&] { return m_tree.GetChildItem(m_tree.GetRootItem()) != nullptr; }));
-    }
-    void TearDown() override {
-        m_tree.DestroyWindow();
-        SkinFixture::TearDown();
-    }
-
-    std::vector<std::wstring> childrenOf(HTREEITEM item) const {
-        std::vector<std::wstring> names;
-        for (HTREEITEM child = m_tree.GetChildItem(item); child; child = m_tree.GetNextSiblingItem(child))
-            names.push_back(m_tree.GetItemText(child).GetString());
-        return names;
-    }
-
-    bool expanded(HTREEITEM item) const {
-        return (m_tree.GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED) && m_tree.GetChildItem(item);
-    }
-
-    TestHost m_host;
-    CQVComboDTBox m_tree;
-};
 
 TEST_F(DirTree, RootIsTheDesktopWithTheComputer) {
     const HTREEITEM root = m_tree.GetRootItem();
@@ -157,62 +89,6 @@ TEST_F(DirTree, ListsAgainByF5) {
     EXPECT_TRUE(TestHost::PumpUntil([&] { return childrenOf(item).size() == 2; }));
 }
 
-TEST_F(DirTree, DeadFolderBlocksNothing) {
-    const TempFolder folder;
-    folder.folder(L"dead");
-    folder.folder(L"living\\inner");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
-    HTREEITEM dead = m_tree.GetChildItem(item);
-    ASSERT_STREQ(L"dead", m_tree.GetItemText(dead));
-    const HTREEITEM living = m_tree.GetNextSiblingItem(dead);
-    {
-        const DeadFolder block;
-        const ULONGLONG begin = GetTickCount64();
-        m_tree.Expand(dead, TVE_EXPAND);
-        EXPECT_LT(GetTickCount64() - begin, 300u);
-        m_tree.Expand(living, TVE_EXPAND);
-        EXPECT_TRUE(TestHost::PumpUntil([&] { return expanded(living); })); // the others go on
-        EXPECT_FALSE(expanded(dead));
-        const ULONGLONG select = GetTickCount64();
-        EXPECT_FALSE(m_tree.SetPathName(folder.path(L"dead\\x").c_str())); // bounded
-        EXPECT_LT(GetTickCount64() - select, 4000u);
-    }
-    EXPECT_TRUE(TestHost::PumpUntil([&] { return expanded(dead); })); // the late answer is shown
-}
-
-TEST_F(DirTree, WindowMayDieWhileAFolderHangs) {
-    const TempFolder folder;
-    folder.folder(L"dead");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
-    const DeadFolder block;
-    m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
-    m_tree.DestroyWindow();
-    TestHost::Settle();
-}
-
-TEST_F(DirTree, ItemsMayBeDeletedWhileAFolderHangs) {
-    const TempFolder folder;
-    folder.folder(L"dead");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
-    {
-        const DeadFolder block;
-        m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
-        m_tree.SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
-    }
-    TestHost::Settle();
-    EXPECT_EQ(0u, m_tree.GetCount());
-    EXPECT_TRUE(m_tree.GetPathName().IsEmpty());
-    EXPECT_FALSE(m_tree.SetPathName(folder.path().c_str())); // no root
-    EXPECT_TRUE(m_tree.SetDesktopFolder());
-    EXPECT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-}
-
 TEST_F(DirTree, IsOpenedByMouse) {
     const TempFolder folder;
     folder.folder(L"sub\\deep");
@@ -262,38 +138,6 @@ TEST_F(DirTree, WithoutWindowNothingHappens) {
     EXPECT_FALSE(list.SetPathName(L"C:\\"));
     EXPECT_FALSE(list.GetPathName(path, -1));
     EXPECT_TRUE(path.IsEmpty());
-}
-
-constexpr int kManyFolders = 10000;
-
-// Lists a folder \many of so many folders, which need not be on the disk.
-QVListerAnswer CALLBACK ListMany(LPCWSTR folder, QVAddFolderEntry add, void* context) {
-    if (!std::wstring(folder).ends_with(L"\\many"))
-        return QVLISTER_ASK_SYSTEM;
-    for (int i = kManyFolders - 1; i >= 0; --i)
-        add(context, (L"folder " + std::to_wstring(i)).c_str(), TRUE);
-    return QVLISTER_LISTED;
-}
-
-TEST_F(DirTree, TenThousandFoldersAreAllThereInOrder) {
-    const TempFolder folder;
-    const std::wstring many = folder.folder(L"many");
-    QV_SetFolderLister(&ListMany);
-    const bool found = m_tree.SetPathName(many.c_str());
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    const bool opened = TestHost::PumpUntil([&] { return expanded(item); });
-    QV_SetFolderLister(nullptr);
-    ASSERT_TRUE(found && opened);
-    std::vector<std::wstring> expected;
-    for (int i = 0; i < kManyFolders; ++i)
-        expected.push_back(L"folder " + std::to_wstring(i));
-    EXPECT_EQ(expected, childrenOf(item));
-    m_tree.Expand(item, TVE_COLLAPSE);
-    m_tree.Expand(item, TVE_EXPAND);
-    EXPECT_TRUE(expanded(item));
-    const std::wstring last = many + L"\\folder 9999";
-    ASSERT_TRUE(m_tree.SetPathName(last.c_str()));
-    EXPECT_STREQ(last.c_str(), m_tree.GetPathName());
 }
 
 TEST_F(DirTree, LeavesNothingBehind) {
