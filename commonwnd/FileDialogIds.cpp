@@ -25,9 +25,18 @@ HWND ShellViewOf(HWND frame) {
     return frame ? ::FindWindowExW(frame, nullptr, kShellViewClass, nullptr) : nullptr;
 }
 
-HWND ShellListOf(HWND frame) {
-    const HWND view = ShellViewOf(frame);
+bool IsShellView(HWND wnd) {
+    wchar_t name[std::size(kShellViewClass) + 1] = L"";
+    return ::GetClassNameW(wnd, name, static_cast<int>(std::size(name))) &&
+           ::lstrcmpiW(name, kShellViewClass) == 0;
+}
+
+HWND ShellListIn(HWND view) {
     return view ? ::GetDlgItem(view, kShellListId) : nullptr;
+}
+
+HWND ShellListOf(HWND frame) {
+    return ShellListIn(ShellViewOf(frame));
 }
 
 HWND ViewToolBarOf(HWND frame) {

@@ -42,7 +42,7 @@ void CLookInFolders::SetWindows(HWND combo, HWND frame) {
     m_known = false;
     m_rows.clear();
     m_inView.reset();
-    m_inViewIcon.reset();
+    m_inViewIcon = nullptr;
 }
 
 int CLookInFolders::RowCount() const {
@@ -113,7 +113,7 @@ void CLookInFolders::Know() {
     for (const int depth : DepthsOf(lefts)) {
         m_rows.push_back({depth, nullptr, nullptr});
         m_rows.back().id = FindItem(m_rows.size() - 1, inView.get());
-        m_rows.back().icon = SmallIconOf(m_rows.back().id.get());
+        m_rows.back().icon = m_icons.Of(m_rows.back().id.get());
     }
 }
 
@@ -148,16 +148,16 @@ HICON CLookInFolders::Icon(int row) {
     Know();
     return row < 0 || static_cast<std::size_t>(row) >= m_rows.size()
                ? nullptr
-               : m_rows[static_cast<std::size_t>(row)].icon.get();
+               : m_rows[static_cast<std::size_t>(row)].icon;
 }
 
 HICON CLookInFolders::IconOfFolderInView() {
     OwnedItemId id = FolderInView();
     if (!m_inViewIcon || !SameItem(id.get(), m_inView.get())) {
-        m_inViewIcon = SmallIconOf(id.get());
+        m_inViewIcon = m_icons.Of(id.get());
         m_inView = std::move(id);
     }
-    return m_inViewIcon.get();
+    return m_inViewIcon;
 }
 
 } // namespace _qv_commonwnd

@@ -1,6 +1,8 @@
 // The folders of the file dialog's look-in combo box: how deep each stands and its icon.
 #pragma once
 
+#include "SmallIcons.h"
+
 #include <afxwin.h>
 
 #include <shlobj.h>
@@ -15,12 +17,6 @@ struct ItemIdDeleter {
     void operator()(PIDLIST_ABSOLUTE id) const { ::CoTaskMemFree(id); }
 };
 using OwnedItemId = std::unique_ptr<ITEMIDLIST, ItemIdDeleter>;
-
-struct IconDeleter {
-    using pointer = HICON;
-    void operator()(HICON icon) const { ::DestroyIcon(icon); }
-};
-using OwnedIcon = std::unique_ptr<HICON__, IconDeleter>;
 
 // The depth of each row from where its text begins: rows that begin at the same place stand equally deep, 0 being
 // the leftmost.
@@ -37,7 +33,7 @@ class CLookInFolders {
 
     // Of a row (0-based): 0 and null for one that is not there.
     int Depth(int row);
-    // Small icon, owned by the model and valid until the rows change.
+    // Small icon, owned by the model.
     HICON Icon(int row);
     // The icon of the folder in view, whether or not the rows were looked at.
     HICON IconOfFolderInView();
@@ -47,8 +43,8 @@ class CLookInFolders {
   private:
     struct Row {
         int depth = 0;
-        OwnedItemId id; // null: not found
-        OwnedIcon icon;
+        OwnedItemId id;       // null: not found
+        HICON icon = nullptr; // m_icons'
     };
 
     void Know();
@@ -63,7 +59,8 @@ class CLookInFolders {
     bool m_known = false;
     std::vector<Row> m_rows;
     OwnedItemId m_inView; // of m_inViewIcon
-    OwnedIcon m_inViewIcon;
+    HICON m_inViewIcon = nullptr;
+    CSmallIcons m_icons;
 };
 
 } // namespace _qv_commonwnd

@@ -75,6 +75,7 @@ void CQVFileDialog::TakeFrame() {
     if (!m_pWndEx->SubclassWindow(Frame()))
         return;
     m_pWndEx->SetEndAction([this] { ReleaseWindows(); });
+    m_pWndEx->SetNewViewAction([this](HWND view) { TakeNewView(view); });
     m_pWndEx->ModifyStyleEx(kFrameExStyles, 0);
     m_pWndEx->ModifyStyle(kFrameStyles, 0, SWP_FRAMECHANGED | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -161,13 +161,17 @@ void CQVFileDialog::TakeNewFolder() {
     m_btnOK.Invalidate();
     m_pParts->folder.Forget();
     ForgetSelection();
+    if (const HWND view = ShellViewOf(Frame()))
+        TakeNewView(view);
+}
+
+// Also when the frame gets a view, which is before the system tells of the folder: a list that was shown before it is
+// skinned would flash up white, and be painted twice.
+void CQVFileDialog::TakeNewView(HWND view) {
     if (!SkinsShellList(SystemMajorVersion()))
         return;
-    const HWND view = ShellViewOf(Frame());
-    if (!view)
-        return;
     CWnd::ModifyStyle(view, 0, WS_CLIPCHILDREN, 0);
-    const HWND list = ShellListOf(Frame());
+    const HWND list = ShellListIn(view);
     if (!list || (m_pSkinnedList && m_pSkinnedList->m_hWnd == list))
         return;
     CWnd::ModifyStyle(list, 0, WS_CLIPCHILDREN, 0);

@@ -89,6 +89,9 @@ LRESULT CQVWndEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
     if (message == WM_COMMAND && LOWORD(wParam) == kFileTypeComboId && HIWORD(wParam) == CBN_DROPDOWN)
         SetComboHeights(reinterpret_cast<HWND>(lParam));
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE && m_newViewAction &&
+        IsShellView(reinterpret_cast<HWND>(lParam)))
+        m_newViewAction(reinterpret_cast<HWND>(lParam));
     return result;
 }
 

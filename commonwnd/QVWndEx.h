@@ -19,6 +19,9 @@ class CQVWndEx : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     // Called when the frame is about to be destroyed, while its children still live.
     void SetEndAction(std::function<void()> action) { m_endAction = std::move(action); }
 
+    // Called with each shell view that the frame gets, before it is shown.
+    void SetNewViewAction(std::function<void(HWND view)> action) { m_newViewAction = std::move(action); }
+
     void OnSkinChange(UINT reason, HWND wnd) override;
 
   protected:
@@ -51,6 +54,7 @@ class CQVWndEx : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
 
     _qv_commonctrl::CQVCaptionBand m_band;
     std::function<void()> m_endAction;
+    std::function<void(HWND view)> m_newViewAction;
 };
 
 } // namespace _qv_commonwnd

@@ -116,16 +116,4 @@ bool SameItem(const ITEMIDLIST* a, const ITEMIDLIST* b) {
     return BytesOfSteps(b, std::numeric_limits<int>::max(), steps) == bytes && !std::memcmp(a, b, bytes);
 }
 
-OwnedIcon SmallIconOf(const ITEMIDLIST* id) {
-    constexpr UINT kSmall = SHGFI_ICON | SHGFI_SMALLICON;
-    SHFILEINFOW info = {};
-    if (id && ::SHGetFileInfoW(reinterpret_cast<LPCWSTR>(id), 0, &info, sizeof info, kSmall | SHGFI_PIDL) &&
-        info.hIcon)
-        return OwnedIcon(info.hIcon);
-    if (::SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
-                         kSmall | SHGFI_USEFILEATTRIBUTES))
-        return OwnedIcon(info.hIcon);
-    return nullptr;
-}
-
 } // namespace _qv_commonwnd

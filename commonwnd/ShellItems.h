@@ -15,7 +15,5 @@ bool HasName(PCIDLIST_ABSOLUTE id, const CString& name);
 OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name);
 // Both null, or equal byte for byte.
 bool SameItem(const ITEMIDLIST* a, const ITEMIDLIST* b);
-// The item's small icon; a plain folder's for null and for items without one.
-OwnedIcon SmallIconOf(const ITEMIDLIST* id);
 
 } // namespace _qv_commonwnd

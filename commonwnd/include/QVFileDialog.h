@@ -197,6 +197,7 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void OnSelectionChange();
     void OnListSelection();
     void TakeNewFolder();
+    void TakeNewView(HWND view);
     void TellTypeChange();
     void OnNothingSelected();
     void OnOneSelected(HWND list);

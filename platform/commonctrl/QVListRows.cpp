@@ -15,10 +15,57 @@ constexpr int kLabelMarginPx = 2;
 constexpr int kCheckBoxPx = 13;
 constexpr UINT kLineFormat = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX;
 
+// What all items of a list have in common: asked once a painting of the list, not once an item.
+struct ListLook {
+    HWND list = nullptr;
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    DWORD view = LV_VIEW_ICON;
+    UINT dpi = 0;
+    HFONT font = nullptr;
+    HIMAGELIST images = nullptr;
+    HIMAGELIST stateImages = nullptr;
+
+    bool FullRow() const { return view == LV_VIEW_DETAILS && (exStyle & LVS_EX_FULLROWSELECT); }
+};
+
+DWORD ViewOf(HWND list, DWORD style) {
+    const auto view = static_cast<DWORD>(SendMessageW(list, LVM_GETVIEW, 0, 0));
+    if (view != LV_VIEW_ICON)
+        return view;
+    switch (style & LVS_TYPEMASK) { // a control without the message answers 0, too
+    case LVS_REPORT:
+        return LV_VIEW_DETAILS;
+    case LVS_LIST:
+        return LV_VIEW_LIST;
+    case LVS_SMALLICON:
+        return LV_VIEW_SMALLICON;
+    default:
+        return LV_VIEW_ICON;
+    }
+}
+
+HIMAGELIST ImagesOf(HWND list, WPARAM kind) {
+    return reinterpret_cast<HIMAGELIST>(SendMessageW(list, LVM_GETIMAGELIST, kind, 0));
+}
+
+ListLook LookOf(HWND list) {
+    ListLook look;
+    look.list = list;
+    look.style = static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE));
+    look.exStyle = static_cast<DWORD>(SendMessageW(list, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0));
+    look.view = ViewOf(list, look.style);
+    look.dpi = QV_GetWindowDpi(list);
+    look.font = WindowFontOf(list);
+    look.images = ImagesOf(list, look.view == LV_VIEW_ICON ? LVSIL_NORMAL : LVSIL_SMALL);
+    look.stateImages = ImagesOf(list, LVSIL_STATE);
+    return look;
+}
+
 // One item in work.
 class ItemPainter {
   public:
-    ItemPainter(HWND list, CDC* dc, int item);
+    ItemPainter(const ListLook& look, CDC* dc, int item);
     void Paint();
 
   private:
@@ -29,9 +76,8 @@ class ItemPainter {
     void PaintReportTexts();
     void PaintLabel();
     CString TextOf(int column) const;
-    DWORD View() const;
-    bool FullRow() const { return View() == LV_VIEW_DETAILS && (m_exStyle & LVS_EX_FULLROWSELECT); }
 
+    const ListLook& m_look;
     HWND m_list;
     CDC* m_dc;
     int m_item;
@@ -39,18 +85,12 @@ class ItemPainter {
     int m_image = -1;
     CString m_text; // of the first column
     CRect m_label;
-    DWORD m_style;
-    DWORD m_exStyle;
-    UINT m_dpi;
-    HFONT m_font;
     RowSelection m_selection;
     RowColors m_colors;
 };
 
-ItemPainter::ItemPainter(HWND list, CDC* dc, int item)
-    : m_list(list), m_dc(dc), m_item(item), m_style(static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE))),
-      m_exStyle(static_cast<DWORD>(SendMessageW(list, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0))),
-      m_dpi(QV_GetWindowDpi(list)), m_font(WindowFontOf(list)) {
+ItemPainter::ItemPainter(const ListLook& look, CDC* dc, int item)
+    : m_look(look), m_list(look.list), m_dc(dc), m_item(item) {
     // One question for all: a list may ask its owner in turn for each answer.
     wchar_t text[kMaxTextUnits] = L"";
     LVITEMW record = {};
@@ -59,15 +99,15 @@ ItemPainter::ItemPainter(HWND list, CDC* dc, int item)
     record.stateMask = ~0u;
     record.pszText = text;
     record.cchTextMax = kMaxTextUnits;
-    if (SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&record))) {
+    if (SendMessageW(m_list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&record))) {
         m_state = record.state;
         m_image = record.iImage;
         m_text = record.pszText; // an owner-data list may answer with a buffer of its own
     }
     m_label = RectOf(LVIR_LABEL);
     const bool selected = m_state & (LVIS_SELECTED | LVIS_DROPHILITED);
-    m_selection = SelectionOf(list, selected, m_style & LVS_SHOWSELALWAYS);
-    m_colors = ColorsOfRow(list, m_selection, QVCLR_LIST, QVCLR_TEXT_LIST);
+    m_selection = SelectionOf(m_list, selected, m_look.style & LVS_SHOWSELALWAYS);
+    m_colors = ColorsOfRow(m_list, m_selection, QVCLR_LIST, QVCLR_TEXT_LIST);
 }
 
 CRect ItemPainter::RectOf(int code) const {
@@ -76,22 +116,6 @@ CRect ItemPainter::RectOf(int code) const {
     if (!SendMessageW(m_list, LVM_GETITEMRECT, static_cast<WPARAM>(m_item), reinterpret_cast<LPARAM>(&rect)))
         rect.SetRectEmpty();
     return rect;
-}
-
-DWORD ItemPainter::View() const {
-    const auto view = static_cast<DWORD>(SendMessageW(m_list, LVM_GETVIEW, 0, 0));
-    if (view != LV_VIEW_ICON)
-        return view;
-    switch (m_style & LVS_TYPEMASK) { // a control without the message answers 0, too
-    case LVS_REPORT:
-        return LV_VIEW_DETAILS;
-    case LVS_LIST:
-        return LV_VIEW_LIST;
-    case LVS_SMALLICON:
-        return LV_VIEW_SMALLICON;
-    default:
-        return LV_VIEW_ICON;
-    }
 }
 
 CString ItemPainter::TextOf(int column) const {
@@ -111,21 +135,19 @@ void ItemPainter::PaintGround(const CRect& selectedPart) {
 }
 
 void ItemPainter::PaintIcon() {
-    const bool large = View() == LV_VIEW_ICON;
-    const auto images = reinterpret_cast<HIMAGELIST>(
-        SendMessageW(m_list, LVM_GETIMAGELIST, large ? LVSIL_NORMAL : LVSIL_SMALL, 0));
+    const bool large = m_look.view == LV_VIEW_ICON;
     int width = 0;
     int height = 0;
-    if (!images || !ImageList_GetIconSize(images, &width, &height))
+    if (!m_look.images || !ImageList_GetIconSize(m_look.images, &width, &height))
         return;
     const CRect room = RectOf(LVIR_ICON);
     const CPoint place(large ? room.left + (room.Width() - width) / 2 : room.left,
                        room.top + (room.Height() - height) / 2);
-    DrawRowIcon(m_dc, images, m_image, place, (m_state & LVIS_CUT) != 0, m_state & LVIS_OVERLAYMASK);
+    DrawRowIcon(m_dc, m_look.images, m_image, place, (m_state & LVIS_CUT) != 0, m_state & LVIS_OVERLAYMASK);
 }
 
 void ItemPainter::PaintCheckBox() {
-    const auto images = reinterpret_cast<HIMAGELIST>(SendMessageW(m_list, LVM_GETIMAGELIST, LVSIL_STATE, 0));
+    const HIMAGELIST images = m_look.stateImages;
     const UINT number = (m_state & LVIS_STATEIMAGEMASK) >> 12;
     int width = 0;
     int height = 0;
@@ -134,13 +156,13 @@ void ItemPainter::PaintCheckBox() {
     const CRect icon = RectOf(LVIR_ICON);
     const CRect bounds = RectOf(LVIR_BOUNDS);
     const CPoint place(icon.left - width, bounds.top + (bounds.Height() - height) / 2);
-    if (!(m_exStyle & LVS_EX_CHECKBOXES)) {
+    if (!(m_look.exStyle & LVS_EX_CHECKBOXES)) {
         DrawRowIcon(m_dc, images, static_cast<int>(number) - 1, place, false, 0);
         return;
     }
-    const int side = QV_ScaleForDpi(kCheckBoxPx, m_dpi);
+    const int side = QV_ScaleForDpi(kCheckBoxPx, m_look.dpi);
     const CPoint corner(place.x + (width - side) / 2, bounds.top + (bounds.Height() - side) / 2);
-    DrawRowCheckBox(m_dc, CRect(corner, CSize(side, side)), number > 1, m_dpi);
+    DrawRowCheckBox(m_dc, CRect(corner, CSize(side, side)), number > 1, m_look.dpi);
 }
 
 void ItemPainter::PaintReportTexts() {
@@ -164,26 +186,27 @@ void ItemPainter::PaintReportTexts() {
         // The first column is to the left whatever its format says.
         const int justify = column == 0 ? LVCFMT_LEFT : record.fmt & LVCFMT_JUSTIFYMASK;
         const UINT side = justify == LVCFMT_RIGHT ? DT_RIGHT : justify == LVCFMT_CENTER ? DT_CENTER : DT_LEFT;
-        cell.DeflateRect(QV_ScaleForDpi(column == 0 ? kLabelMarginPx : kCellMarginPx, m_dpi), 0);
-        DrawTextIn(m_dc, column == 0 ? m_text : TextOf(column), cell, side | kLineFormat, m_font,
-                   column == 0 || FullRow() ? m_colors.text : plain);
+        cell.DeflateRect(QV_ScaleForDpi(column == 0 ? kLabelMarginPx : kCellMarginPx, m_look.dpi), 0);
+        DrawTextIn(m_dc, column == 0 ? m_text : TextOf(column), cell, side | kLineFormat, m_look.font,
+                   column == 0 || m_look.FullRow() ? m_colors.text : plain);
     }
 }
 
 void ItemPainter::PaintLabel() {
     CRect label = m_label;
-    label.DeflateRect(QV_ScaleForDpi(kLabelMarginPx, m_dpi), 0);
-    const bool wrapped = View() == LV_VIEW_ICON && !(m_style & LVS_NOLABELWRAP);
-    const UINT format = View() == LV_VIEW_ICON ? DT_CENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
-                                                     (wrapped ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE)
-                                               : DT_LEFT | kLineFormat;
-    DrawTextIn(m_dc, m_text, label, format, m_font, m_colors.text);
+    label.DeflateRect(QV_ScaleForDpi(kLabelMarginPx, m_look.dpi), 0);
+    const bool wrapped = m_look.view == LV_VIEW_ICON && !(m_look.style & LVS_NOLABELWRAP);
+    const UINT format = m_look.view == LV_VIEW_ICON
+                            ? DT_CENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
+                                  (wrapped ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE)
+                            : DT_LEFT | kLineFormat;
+    DrawTextIn(m_dc, m_text, label, format, m_look.font, m_colors.text);
 }
 
 void ItemPainter::Paint() {
-    const bool report = View() == LV_VIEW_DETAILS;
-    CRect ground = FullRow() ? RectOf(LVIR_BOUNDS) : m_label;
-    if (FullRow())
+    const bool report = m_look.view == LV_VIEW_DETAILS;
+    CRect ground = m_look.FullRow() ? RectOf(LVIR_BOUNDS) : m_label;
+    if (m_look.FullRow())
         ground.left = RectOf(LVIR_ICON).left;
     PaintGround(ground);
     PaintCheckBox();
@@ -197,16 +220,18 @@ void ItemPainter::Paint() {
 } // namespace
 
 LRESULT PaintListItem(NMLVCUSTOMDRAW& draw) {
+    thread_local ListLook look; // of the list in painting
     switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
+        look = LookOf(draw.nmcd.hdr.hwndFrom);
         return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
         // The control may offer every item of a column or page; most are outside of what is to be painted.
         if (const CRect place(draw.nmcd.rc); !place.IsRectEmpty() && !::RectVisible(draw.nmcd.hdc, place))
             return CDRF_SKIPDEFAULT;
-        ItemPainter(draw.nmcd.hdr.hwndFrom, CDC::FromHandle(draw.nmcd.hdc),
-                    static_cast<int>(draw.nmcd.dwItemSpec))
-            .Paint();
+        if (look.list != draw.nmcd.hdr.hwndFrom)
+            look = LookOf(draw.nmcd.hdr.hwndFrom);
+        ItemPainter(look, CDC::FromHandle(draw.nmcd.hdc), static_cast<int>(draw.nmcd.dwItemSpec)).Paint();
         return CDRF_SKIPDEFAULT;
     default:
         return CDRF_DODEFAULT;

@@ -72,9 +72,14 @@ TEST_F(ShellItem, SamenessIsThatOfEveryByte) {
 }
 
 TEST_F(ShellItem, EveryItemHasAnIcon) {
-    EXPECT_TRUE(SmallIconOf(Of(L"C:\\windows").get()));
-    EXPECT_TRUE(SmallIconOf(DesktopItem().get()));
-    EXPECT_TRUE(SmallIconOf(nullptr)) << "a plain folder's";
+    CSmallIcons icons;
+    const HICON folder = icons.Of(Of(L"C:\\windows").get());
+    EXPECT_TRUE(folder);
+    EXPECT_EQ(folder, icons.Of(Of(L"C:\\windows\\system32").get())) << "copied once";
+    EXPECT_EQ(folder, icons.Of(nullptr)) << "a plain folder's";
+    const HICON desktop = icons.Of(DesktopItem().get());
+    EXPECT_TRUE(desktop);
+    EXPECT_NE(folder, desktop);
 }
 
 TEST(LookInFolders, WithoutWindowsThereIsNothing) {
