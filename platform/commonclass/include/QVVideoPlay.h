@@ -18,7 +18,8 @@ class QVCOMMONCLASS_API CQVVideoPlay {
     // path is null or empty, there is no such file, it cannot be read, is not a Photoshop document or is
     // damaged as far as the layer section reaches; names is unchanged.
     // Paths over 260 characters and \\?\ paths are fine. The file is opened for reading only and shared with
-    // everybody; only the layer records are read, whatever the file's size. Any thread; nothing is kept.
+    // everybody; only the layer records are read, whatever the file's size. Any thread with 64 kB of stack left;
+    // nothing is kept.
     static BOOL GetPsdLayerInfo(LPCWSTR path, CStringArray& names);
 };
 

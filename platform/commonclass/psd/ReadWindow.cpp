@@ -1,8 +1,6 @@
 #include "ReadWindow.h"
 #include <algorithm>
 #include <cstring>
-#include <new>
-#include <utility>
 
 namespace _qv_commonclass::psd {
 
@@ -13,24 +11,6 @@ std::size_t ReadWindow::nextSpan() noexcept {
     m_span = m_sawLongSkip ? kNarrowBytes : std::min(m_span * 2, kWideBytes);
     m_sawLongSkip = false;
     return m_span;
-}
-
-// Makes room for capacity bytes, with kept bytes of the old window in front. The room grows with the window: most
-// documents need little, and large allocations cost more than the reading.
-bool ReadWindow::keep(std::size_t from, std::size_t kept, std::size_t capacity) noexcept {
-    if (capacity <= m_capacity) {
-        if (kept > 0)
-            std::memmove(m_buffer.get(), m_buffer.get() + from, kept);
-        return true;
-    }
-    std::unique_ptr<std::uint8_t[]> larger(new (std::nothrow) std::uint8_t[capacity]);
-    if (larger == nullptr)
-        return false;
-    if (kept > 0)
-        std::memcpy(larger.get(), m_buffer.get() + from, kept);
-    m_buffer = std::move(larger);
-    m_capacity = capacity;
-    return true;
 }
 
 const std::uint8_t* ReadWindow::refill(std::uint64_t offset, std::size_t count) noexcept {
@@ -45,18 +25,15 @@ const std::uint8_t* ReadWindow::refill(std::uint64_t offset, std::size_t count) 
     const std::uint64_t readFrom = offset + kept;
     const std::size_t wanted = static_cast<std::size_t>(
         std::min<std::uint64_t>(std::max(nextSpan(), count - kept), m_sourceSize - readFrom));
-    if (!keep(from, kept, kept + wanted)) {
-        m_failed = true;
-        return nullptr;
-    }
-    const std::size_t got = std::min(m_source.readAt(readFrom, m_buffer.get() + kept, wanted), wanted);
+    std::memmove(m_buffer, m_buffer + from, kept);
+    const std::size_t got = std::min(m_source.readAt(readFrom, m_buffer + kept, wanted), wanted);
     m_begin = offset;
     m_filled = kept + got;
     if (m_filled < count) {
         m_failed = true;
         return nullptr;
     }
-    return m_buffer.get();
+    return m_buffer;
 }
 
 } // namespace _qv_commonclass::psd

@@ -1,18 +1,19 @@
 #pragma once
 
 #include "ByteSource.h"
-#include <memory>
 
 namespace _qv_commonclass::psd {
 
 // A window of bytes that moves forward over a source and never reads a byte twice. Its width follows what the
 // document looks like: wide where the interesting bytes lie close together, narrow where long stretches
 // between them are skipped, because there most of a wide window would be read for nothing.
+//
+// An object holds its bytes itself and is meant for the stack: a heap gives large blocks back to the system after each
+// document, and getting them again costs more than the reading.
 class ReadWindow {
   public:
     static constexpr std::size_t kNarrowBytes = 4 * 1024;
-    // As much as stays in the processor's nearest cache; more saves few reads, and the heap gives larger blocks back to
-    // the system after each document.
+    // As much as stays in the processor's nearest cache; more saves few reads.
     static constexpr std::size_t kWideBytes = 32 * 1024;
     // Reading that much costs what two to three separate reads cost, so a skip pays for a read of its own from
     // about this length on.
@@ -32,7 +33,7 @@ class ReadWindow {
     const std::uint8_t* bytesAt(std::uint64_t offset, std::size_t count) noexcept {
         noteSkip(offset, count);
         if (offset >= m_begin && offset - m_begin <= m_filled && count <= m_filled - (offset - m_begin))
-            return m_buffer.get() + (offset - m_begin);
+            return m_buffer + (offset - m_begin);
         return refill(offset, count);
     }
 
@@ -44,18 +45,17 @@ class ReadWindow {
     }
     const std::uint8_t* refill(std::uint64_t offset, std::size_t count) noexcept;
     std::size_t nextSpan() noexcept;
-    bool keep(std::size_t from, std::size_t kept, std::size_t capacity) noexcept;
 
     ByteSource& m_source;
-    std::unique_ptr<std::uint8_t[]> m_buffer;
     std::uint64_t m_sourceSize;
     std::uint64_t m_begin = 0;
     std::uint64_t m_lastEnd = 0;
-    std::size_t m_capacity = 0;
     std::size_t m_filled = 0;
     std::size_t m_span = kNarrowBytes / 2;
     bool m_sawLongSkip = false;
     bool m_failed = false;
+    // What is kept of the old window is shorter than a request. Not initialised: most documents need little of it.
+    std::uint8_t m_buffer[kWideBytes + kMaxRequestBytes];
 };
 
 } // namespace _qv_commonclass::psd

@@ -80,7 +80,7 @@ std::wstring nameIn(Pieces& pieces, std::uint64_t end) {
 
 } // namespace
 
-int readBareRecords(const BenchDocument& document) {
+void readBareRecords(const BenchDocument& document, std::vector<std::wstring>& names) {
     constexpr std::uint64_t boundsBytes = 16;
     constexpr std::uint64_t blendBytes = 12;
     const std::uint64_t channelBytes = document.path.ends_with(L"b") ? 10 : 6;
@@ -90,7 +90,6 @@ int readBareRecords(const BenchDocument& document) {
     begin.QuadPart = static_cast<LONGLONG>(document.recordsBegin);
     SetFilePointerEx(file, begin, nullptr, FILE_BEGIN);
     Pieces pieces(file, document.recordsBegin);
-    std::vector<std::wstring> names;
     for (std::uint32_t left = pieces.number(2); left > 0; --left) {
         pieces.skip(boundsBytes);
         pieces.skip(pieces.number(2) * channelBytes + blendBytes);
@@ -100,5 +99,4 @@ int readBareRecords(const BenchDocument& document) {
         pieces.goTo(end);
     }
     CloseHandle(file);
-    return static_cast<int>(names.size());
 }
