@@ -4,7 +4,7 @@
 #include "res/ResourceIds.h"
 
 #include <LWSupportAPI.h>
-#include <QVReplaceWnd.h>
+#include <QVListControls.h>
 #include <QVSkin.h>
 
 using namespace _qv_commonctrl;
@@ -24,6 +24,7 @@ BEGIN_MESSAGE_MAP(CQVFilePathShowTip, CQVDialog)
     ON_WM_DESTROY()
     ON_BN_CLICKED(IDOK, &CQVFilePathShowTip::OnBnClickedOk)
     ON_BN_CLICKED(IDCANCEL, &CQVFilePathShowTip::OnBnClickedCancel)
+    ON_NOTIFY(LVN_DELETEALLITEMS, IDC_MISSINGFILES_LIST, &CQVFilePathShowTip::OnListEmptied)
 END_MESSAGE_MAP()
 
 CQVFilePathShowTip::CQVFilePathShowTip(CWnd* parent) : CQVDialog(IDD_MISSINGFILES, parent) {
@@ -38,23 +39,12 @@ void CQVFilePathShowTip::SetFile(CStringArray& files) {
 BOOL CQVFilePathShowTip::OnInitDialog() {
     CQVDialog::OnInitDialog();
     SetWindowText(LWLoadString(L"IDS_CAPTURERENDER_TIP"));
-    if (auto* list = dynamic_cast<CListCtrl*>(GetDlgItem(IDC_MISSINGFILES_LIST)))
-        FillList(*list);
+    if (auto* list = dynamic_cast<CQVListCtrl*>(GetDlgItem(IDC_MISSINGFILES_LIST))) {
+        list->InsertColumn(0, LWLoadString(L"IDS_COMMON_FILENAME"), LVCFMT_LEFT,
+                           QV_ScalePx(m_hWnd, kPathColumnPx));
+        list->AppendRows(m_aFiles);
+    }
     return TRUE;
-}
-
-// Neither the list's own scroll bars nor the skin's are worked out anew with every row.
-void CQVFilePathShowTip::FillList(CListCtrl& list) {
-    list.InsertColumn(0, LWLoadString(L"IDS_COMMON_FILENAME"), LVCFMT_LEFT,
-                      QV_ScalePx(m_hWnd, kPathColumnPx));
-    const int count = static_cast<int>(m_aFiles.GetSize());
-    QV_UnReplaceWnd(list);
-    list.SetRedraw(FALSE);
-    list.SetItemCount(count);
-    for (int i = 0; i < count; ++i)
-        list.InsertItem(i, m_aFiles[i]);
-    list.SetRedraw(TRUE);
-    QV_ReplaceWnd(list);
 }
 
 // The list has no frame of its own.
@@ -66,6 +56,17 @@ BOOL CQVFilePathShowTip::OnEraseBkgnd(CDC* dc) {
         dc->Draw3dRect(frame, QV_GetSysColor(QVCLR_LIST_FRAME), QV_GetSysColor(QVCLR_LIST_FRAME));
     }
     return erased;
+}
+
+// Nobody wants to hear of each of a hundred thousand rows, whether it comes or goes.
+LRESULT CQVFilePathShowTip::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == LVN_INSERTITEM)
+        return 0;
+    return CQVDialog::WindowProc(message, wParam, lParam);
+}
+
+void CQVFilePathShowTip::OnListEmptied(NMHDR*, LRESULT* result) {
+    *result = TRUE; // without telling of each row
 }
 
 void CQVFilePathShowTip::OnDestroy() {

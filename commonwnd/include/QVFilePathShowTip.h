@@ -31,16 +31,15 @@ class QVCOMMONWND_API CQVFilePathShowTip : public _qv_commonctrl::CQVDialog {
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* dx) override;
     void OnSkinChange(UINT reason, HWND wnd) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnDestroy();
+    afx_msg void OnListEmptied(NMHDR* header, LRESULT* result);
     afx_msg void OnBnClickedOk();
     afx_msg void OnBnClickedCancel();
 
   protected:
     DECLARE_MESSAGE_MAP()
-
-  private:
-    void FillList(CListCtrl& list);
 };
 
 } // namespace _qv_commonwnd

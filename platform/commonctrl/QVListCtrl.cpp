@@ -2,6 +2,7 @@
 
 #include "QVListRows.h"
 #include "QVMemoDC.h"
+#include "QVRedrawPause.h"
 #include "QVReplaceWnd.h"
 #include "QVRowPaint.h"
 
@@ -45,6 +46,25 @@ void CQVListCtrl::TakeHeader() {
     const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
     if (header && !CWnd::FromHandlePermanent(header))
         m_header.SubclassWindow(header);
+}
+
+// Neither the list's own scroll bars nor the skin's are worked out anew with every row, and the rows go straight to the
+// control: what stands before it has no use for them.
+BOOL CQVListCtrl::AppendRows(const CStringArray& texts) {
+    if (!m_hWnd)
+        return FALSE;
+    const RedrawPause pause(m_hWnd);
+    const INT_PTR count = texts.GetSize();
+    LVITEMW row = {};
+    row.mask = LVIF_TEXT;
+    row.iItem = GetItemCount();
+    SetItemCount(row.iItem + static_cast<int>(count)); // room at once, not bit by bit
+    for (INT_PTR i = 0; i < count; ++i, ++row.iItem) {
+        row.pszText = const_cast<LPWSTR>(texts[i].GetString());
+        if (DefWindowProc(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&row)) < 0)
+            return FALSE;
+    }
+    return TRUE;
 }
 
 void CQVListCtrl::OnSkinChange(UINT reason, HWND wnd) {

@@ -268,6 +268,31 @@ TEST_F(ListControls, MarqueeMoves) {
     progress.DestroyWindow();
 }
 
+TEST_F(ListControls, RowsAreAppendedAtOnce) {
+    TestHost host;
+    CQVListCtrl list;
+    CStringArray texts;
+    EXPECT_FALSE(list.AppendRows(texts)) << "no window";
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(20, 20, 300, 220), &host, 7));
+    list.InsertColumn(0, L"Name", LVCFMT_LEFT, 160);
+    list.InsertItem(0, L"before");
+    EXPECT_TRUE(list.AppendRows(texts)) << "no rows";
+    EXPECT_EQ(1, list.GetItemCount());
+    for (int i = 0; i < 500; ++i)
+        texts.Add((L"\u7247\u6BB5 " + std::to_wstring(i)).c_str());
+    texts.Add(L"");
+    EXPECT_TRUE(list.AppendRows(texts));
+    ASSERT_EQ(502, list.GetItemCount());
+    EXPECT_STREQ(L"before", list.GetItemText(0, 0));
+    EXPECT_STREQ(L"\u7247\u6BB5 0", list.GetItemText(1, 0));
+    EXPECT_STREQ(L"\u7247\u6BB5 499", list.GetItemText(500, 0));
+    EXPECT_STREQ(L"", list.GetItemText(501, 0));
+    const Picture picture = look(list, L"list-appended"); // with its scroll bar
+    EXPECT_EQ(0, systemPixels(picture));
+    EXPECT_GT(picture.count(QV_GetSysColor(QVCLR_TEXT_LIST)), 200);
+    list.DestroyWindow();
+}
+
 TEST_F(ListControls, LeaveNothingBehind) {
     TestHost host;
     qvtest::expectNoLeak(30, [&] {
