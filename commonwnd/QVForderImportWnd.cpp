@@ -53,9 +53,11 @@ int CQVForderImportWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     if (m_btnImport.Create(LWLoadString(L"IDS_CAPTURERENDER_IMPORTFOLDER"), WS_CHILD | WS_VISIBLE,
                            CRect(0, 0, 0, 0), this, kImportButtonId)) {
+        m_btnImport.ModifyStyle(0, WS_TABSTOP);
         m_btnImport.SetFont(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(GetSafeHwnd())));
         m_btnImport.EnableWindow(FALSE);
     }
+    ModifyStyleEx(0, WS_EX_CONTROLPARENT); // the tab key goes through the dialog's panels
     AttachSkin(this);
     return 0;
 }

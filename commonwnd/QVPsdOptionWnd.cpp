@@ -75,6 +75,7 @@ int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
     m_bCompileImport = TRUE;
+    ModifyStyleEx(0, WS_EX_CONTROLPARENT); // the tab key goes through the dialog's panels
     AttachSkin(this);
     if (!m_bDelayControls)
         EnsureControls();
@@ -110,6 +111,7 @@ BOOL CQVPsdOptionWnd::CreateRow(CQVStatic& label, int labelId, LPCWSTR labelKey,
     const CRect dropped(0, 0, 0, QV_ScaleForDpi(m_nDropHeight, dpi));
     if (!combo.Create(kComboStyle, dropped, this, comboId))
         return FALSE;
+    combo.ModifyStyle(0, WS_TABSTOP);
     combo.SetFont(QV_GetSysFont(QVFONT_UI, dpi));
     combo.SetItemHeight(0, static_cast<UINT>(QV_ScaleForDpi(kListRowHeightPx, dpi)));
     return TRUE;

@@ -76,6 +76,17 @@ TEST_F(DialogFolder, ButtonEndsTheDialogWithTheFolder) {
     }
 }
 
+TEST_F(DialogFolder, ButtonIsPressedByKeyboard) {
+    TestDialog dialog(m_folder, kBoth);
+    EXPECT_EQ(IDOK, Run(dialog, [&](Driver& user) {
+                  Select(user, dialog, L"takes");
+                  TabTo(user, dialog, ::GetDlgItem(dialog.m_wndForderImport.m_hWnd, kImportButton));
+                  user.press(VK_SPACE);
+              }));
+    EXPECT_EQ(eSelForder, dialog.GetSelTpye());
+    EXPECT_EQ(CString(m_folder.path(L"takes").c_str()), dialog.GetSelForderPath());
+}
+
 TEST_F(DialogFolder, AnswersTheTypeThatWasChosen) {
     TestDialog dialog(m_folder, FDO_IMPORTFOLDER);
     EXPECT_EQ(IDOK, Run(dialog, [&](Driver& user) {

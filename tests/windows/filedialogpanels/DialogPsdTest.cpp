@@ -97,6 +97,42 @@ TEST_F(DialogPsd, NeverShownUnlessTheHostAllowsIt) {
     });
 }
 
+TEST_F(DialogPsd, LayersAreChosenByKeyboardAlone) {
+    TestDialog dialog(m_folder, FDO_KEEPOK);
+    dialog.EnableLayerInfo(kAllowPanel);
+    EXPECT_EQ(IDOK, Run(dialog, [&](Driver& user) {
+                  Select(user, dialog, L"abc.psd");
+                  const HWND panel = dialog.m_wndPsdOption.m_hWnd;
+                  const HWND layers = ::GetDlgItem(panel, kLayerCombo);
+                  TabTo(user, dialog, ::GetDlgItem(panel, kImportTypeCombo));
+                  user.press(VK_DOWN);
+                  user.waitEnabled(layers, true);
+                  TabTo(user, dialog, layers);
+                  user.press(VK_SPACE);
+                  user.waitFor("the open list", [&] { return user.send(layers, CB_GETDROPPEDSTATE) != 0; });
+                  user.press(VK_DOWN);
+                  user.press(VK_DOWN);
+                  user.press(VK_SPACE); // A: the topmost layer stands first
+                  user.enter();
+                  user.click(dialog.Frame(), IDOK);
+              }));
+    EXPECT_FALSE(dialog.IsCompileImportType());
+    EXPECT_EQ((Checks{0, 1, 1}), LayerInfo(dialog));
+}
+
+// Neither a hidden panel nor one without a control to go to holds the keyboard up.
+TEST_F(DialogPsd, TabKeyPassesTheHiddenPanel) {
+    TestDialog dialog(m_folder, FDO_KEEPOK | FDO_IMPORTFOLDER);
+    dialog.EnableLayerInfo(kAllowPanel);
+    EXPECT_EQ(IDCANCEL, Run(dialog, [&](Driver& user) {
+                  Select(user, dialog, L"plain.txt");
+                  EXPECT_FALSE(dialog.PsdShown());
+                  for (const int id : {IDCANCEL, IDOK})
+                      TabTo(user, dialog, ::GetDlgItem(dialog.Frame(), id));
+                  user.click(dialog.Frame(), IDCANCEL);
+              }));
+}
+
 TEST_F(DialogPsd, AnswersTheCheckedLayers) {
     TestDialog dialog(m_folder, FDO_KEEPOK);
     dialog.EnableLayerInfo(kAllowPanel);

@@ -70,4 +70,16 @@ void RunningDialog::Select(Driver& user, TestDialog& dialog, const wchar_t* name
     user.settle();
 }
 
+void RunningDialog::TabTo(Driver& user, TestDialog& dialog, HWND control) {
+    constexpr int kMostStops = 30;
+    HWND focus = nullptr;
+    user.onUi([&] { ::SetFocus(dialog.List()); });
+    for (int stops = 0; stops < kMostStops && focus != control; ++stops) {
+        user.press(VK_TAB);
+        user.settle();
+        user.onUi([&] { focus = ::GetFocus(); });
+    }
+    EXPECT_EQ(control, focus);
+}
+
 } // namespace panels_test

@@ -31,6 +31,8 @@ class RunningDialog : public Panels {
     static INT_PTR Run(TestDialog& dialog, const std::function<void(Driver&)>& act);
     // Selects one item by its name; null: none.
     static void Select(Driver& user, TestDialog& dialog, const wchar_t* name);
+    // Presses the tab key, from the list on, until the control has the keyboard.
+    static void TabTo(Driver& user, TestDialog& dialog, HWND control);
 
   private:
     std::wstring m_formerFolder;
