@@ -75,7 +75,6 @@ int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
     m_bCompileImport = TRUE;
-    ModifyStyleEx(0, WS_EX_CONTROLPARENT); // the tab key goes through the dialog's panels
     AttachSkin(this);
     if (!m_bDelayControls)
         EnsureControls();
@@ -89,6 +88,7 @@ void CQVPsdOptionWnd::DelayControls() {
 void CQVPsdOptionWnd::EnsureControls() {
     if (!GetSafeHwnd() || m_stcImportType.GetSafeHwnd())
         return;
+    ModifyStyleEx(0, WS_EX_CONTROLPARENT); // the tab key goes through the dialog's panels
     CreateRow(m_stcImportType, kImportTypeLabelId, L"IDS_FILEDLG_IMPORTTYPE", m_cmbImportType,
               kImportTypeComboId);
     m_cmbImportType.InsertString(kRenderImport, LWLoadString(L"IDS_FILEDLG_RENDERIMP"));
