@@ -31,8 +31,8 @@ void SetComboHeights(HWND combo);
 // The shell's view in the frame and its list; null when it is not there (yet).
 HWND ShellViewOf(HWND frame);
 HWND ShellListOf(HWND frame);
-bool IsShellView(HWND wnd);
 HWND ShellListIn(HWND view);
+bool IsShellView(HWND wnd);
 
 // The tool bar with the kinds of view: one without a title that is not the places bar, which may have none either.
 HWND ViewToolBarOf(HWND frame);

@@ -3,6 +3,7 @@
 #include "QVDict.h"
 #include "QVDirIcons.h"
 #include "QVFolderListing.h"
+#include "QVFolderOrder.h"
 #include "QVRedrawPause.h"
 
 #include <shlwapi.h>
@@ -72,7 +73,8 @@ BOOL CQVDirListCtrl::SetPathName(LPCWSTR folder) {
         SetUpColumns();
         const RedrawPause pause(m_hWnd);
         DeleteAllItems();
-        const auto entries = listing->Take();
+        auto entries = listing->Take();
+        SortEntries(entries);
         SendMessage(LVM_SETITEMCOUNT, entries.size()); // room at once, not bit by bit
         for (std::size_t i = 0; i < entries.size(); ++i)
             InsertEntry(static_cast<int>(i), entries[i]);

@@ -213,7 +213,9 @@ void CQVDirTreeImpl::InsertTaken(DirTreePending& pending) {
         return;
     const HTREEITEM item = pending.item;
     const bool first = Next(TVGN_CHILD, item) == nullptr;
-    if (!first && !pending.begun)
+    if (first)
+        SortEntries(entries); // later ones are sorted with those that are there
+    else if (!pending.begun)
         NoteChildren(pending);
     pending.begun = true;
     for (FolderEntry& entry : entries) {

@@ -43,6 +43,8 @@ bool ListPath(const std::wstring& folder, FolderContent content, const FolderSin
                                            FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
     if (search == INVALID_HANDLE_VALUE)
         return GetLastError() == ERROR_FILE_NOT_FOUND; // the root of an empty drive holds not even dots
+    const std::unique_ptr<void, decltype(&FindClose)> closing(search,
+                                                              &FindClose); // also when memory runs out
     do {
         const bool folderEntry = data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
         if (IsDotName(data.cFileName) || (data.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) ||
@@ -50,9 +52,7 @@ bool ListPath(const std::wstring& folder, FolderContent content, const FolderSin
             continue;
         sink(EntryOf(data));
     } while (FindNextFileW(search, &data));
-    const bool complete = GetLastError() == ERROR_NO_MORE_FILES;
-    FindClose(search);
-    return complete;
+    return GetLastError() == ERROR_NO_MORE_FILES;
 }
 
 // Entries of the upper name space, which come all at once.

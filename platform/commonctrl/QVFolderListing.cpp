@@ -1,6 +1,5 @@
 #include "QVFolderListing.h"
 
-#include "QVFolderOrder.h"
 #include "QVModule.h"
 
 #include <algorithm>
@@ -29,13 +28,10 @@ class FolderListing::Reading {
 
     std::vector<FolderEntry> Take() {
         std::vector<FolderEntry> taken;
-        {
-            const std::scoped_lock lock(m_mutex);
-            taken.swap(m_ready);
-            m_taken += taken.size();
-            m_reported = false;
-        }
-        SortEntries(taken);
+        const std::scoped_lock lock(m_mutex);
+        taken.swap(m_ready);
+        m_taken += taken.size();
+        m_reported = false;
         return taken;
     }
 

@@ -17,7 +17,7 @@ class FolderListing {
     bool Wait(DWORD milliseconds) const { return m_task->Wait(milliseconds); }
     // Whether the folder was listed to its end. To be asked after the end only.
     bool Succeeded() const;
-    // The entries that were read and not taken yet, in their order. May be called at any time.
+    // The entries that were read and not taken yet, in the order of reading. May be called at any time.
     std::vector<FolderEntry> Take();
 
   private:

@@ -220,7 +220,7 @@ void ItemPainter::Paint() {
 } // namespace
 
 LRESULT PaintListItem(NMLVCUSTOMDRAW& draw) {
-    thread_local ListLook look; // of the list in painting
+    static ListLook look; // of the list in painting; one thread paints all of them
     switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
         look = LookOf(draw.nmcd.hdr.hwndFrom);

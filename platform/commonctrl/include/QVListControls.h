@@ -74,7 +74,7 @@ class QVCOMMONCTRL_API CQVListCtrl : public CListCtrl, public CQVBaseCtrl {
 };
 
 // Answers a list view's custom-draw notification: paints its items with the skin. For the parent of a list that
-// is no CQVListCtrl, such as one inside a window of the system.
+// is no CQVListCtrl, such as one inside a window of the system. User-interface thread.
 QVCOMMONCTRL_API LRESULT QV_PaintListItem(NMLVCUSTOMDRAW& draw);
 
 // A tree view with skinned rows, expanders and scroll bars; custom draw as with the list.

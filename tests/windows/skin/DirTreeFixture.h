@@ -3,6 +3,8 @@
 
 #include "SkinFixture.h"
 
+#include "TempFolder.h"
+
 using namespace _qv_commonctrl;
 
 constexpr DWORD kTreeStyle =
@@ -30,6 +32,14 @@ class DirTree : public SkinFixture {
         for (HTREEITEM child = m_tree.GetChildItem(item); child; child = m_tree.GetNextSiblingItem(child))
             names.push_back(m_tree.GetItemText(child).GetString());
         return names;
+    }
+
+    // Goes to a folder and waits until it is open. Null when it does not open.
+    HTREEITEM open(const qvtest::TempFolder& folder) {
+        if (!m_tree.SetPathName(folder.path().c_str()))
+            return nullptr;
+        const HTREEITEM item = m_tree.GetSelectedItem();
+        return TestHost::PumpUntil([&] { return expanded(item); }) ? item : nullptr;
     }
 
     bool expanded(HTREEITEM item) const {

@@ -44,9 +44,8 @@ TEST_F(DirTree, DeadFolderBlocksNothing) {
     const TempFolder folder;
     folder.folder(L"dead");
     folder.folder(L"living\\inner");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
     HTREEITEM dead = m_tree.GetChildItem(item);
     ASSERT_STREQ(L"dead", m_tree.GetItemText(dead));
     const HTREEITEM living = m_tree.GetNextSiblingItem(dead);
@@ -68,9 +67,8 @@ TEST_F(DirTree, DeadFolderBlocksNothing) {
 TEST_F(DirTree, WindowMayDieWhileAFolderHangs) {
     const TempFolder folder;
     folder.folder(L"dead");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
     const DeadFolder block;
     m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
     m_tree.DestroyWindow();
@@ -80,9 +78,8 @@ TEST_F(DirTree, WindowMayDieWhileAFolderHangs) {
 TEST_F(DirTree, ItemsMayBeDeletedWhileAFolderHangs) {
     const TempFolder folder;
     folder.folder(L"dead");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
     {
         const DeadFolder block;
         m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
@@ -188,9 +185,8 @@ class SlowTree : public DirTree {
     void SetUp() override {
         DirTree::SetUp();
         m_folder.folder(L"slow");
-        ASSERT_TRUE(m_tree.SetPathName(m_folder.path().c_str()));
-        const HTREEITEM top = m_tree.GetSelectedItem();
-        ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(top); }));
+        const HTREEITEM top = open(m_folder);
+        ASSERT_NE(nullptr, top);
         m_item = m_tree.GetChildItem(top);
         ASSERT_STREQ(L"slow", m_tree.GetItemText(m_item));
     }

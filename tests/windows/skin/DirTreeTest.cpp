@@ -81,9 +81,8 @@ TEST_F(DirTree, EmptyFolderLosesItsExpander) {
 TEST_F(DirTree, ListsAgainByF5) {
     const TempFolder folder;
     folder.folder(L"one");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
     folder.folder(L"two");
     m_tree.SendMessage(WM_KEYDOWN, VK_F5);
     EXPECT_TRUE(TestHost::PumpUntil([&] { return childrenOf(item).size() == 2; }));
@@ -92,9 +91,8 @@ TEST_F(DirTree, ListsAgainByF5) {
 TEST_F(DirTree, IsOpenedByMouse) {
     const TempFolder folder;
     folder.folder(L"sub\\deep");
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
     const HTREEITEM sub = m_tree.GetChildItem(item);
     m_tree.EnsureVisible(sub);
     CRect text;
@@ -117,9 +115,8 @@ TEST_F(DirTree, FilesToo) {
     folder.file(L"file.txt", "x");
     m_tree.SetTreeCtrl(0);
     ASSERT_TRUE(m_tree.SetDesktopFolder());
-    ASSERT_TRUE(m_tree.SetPathName(folder.path().c_str()));
-    const HTREEITEM item = m_tree.GetSelectedItem();
-    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(item); }));
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
     EXPECT_EQ((std::vector<std::wstring>{L"folder", L"file.txt"}), childrenOf(item));
     const HTREEITEM file = m_tree.GetNextSiblingItem(m_tree.GetChildItem(item));
     EXPECT_FALSE(m_tree.ItemHasChildren(file));
