@@ -35,32 +35,37 @@ target_link_libraries(qv_options INTERFACE ${QV_STACK_GUARD})
 
 include(QVSanitizers)
 
-# A folder whose sources are not there yet still makes its DLL, so that the others link and run.
-function(qv_empty_source name out)
-  set(file ${CMAKE_CURRENT_BINARY_DIR}/${name}_empty.cpp)
-  file(CONFIGURE OUTPUT ${file} CONTENT "extern \"C\" __declspec(dllexport) const int @name@_isEmpty = 1;\n" @ONLY)
-  set(${out} ${file} PARENT_SCOPE)
-endfunction()
-
 # qv_add_dll(NAME [EXPORTS macro] [DEPENDS dll...] [SYSTEM_LIBS lib...])
-# One DLL per folder: all .cpp and .rc files below the calling folder, its public headers in include/.
+# One DLL per folder: all .cpp and .rc files below the calling folder, its public headers in include/. The sources are
+# compiled once: NAME is linked from the objects, and NAME_inner is an archive of the same objects, from which a test
+# or benchmark takes what the DLL does not export (an include names its room, "support/FileNameRules.h").
 function(qv_add_dll name)
   cmake_parse_arguments(ARG "" "EXPORTS" "DEPENDS;SYSTEM_LIBS" ${ARGN})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
-  if(NOT sources)
-    qv_empty_source(${name} sources)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB_RECURSE resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
+  add_library(${name}_objects OBJECT ${sources})
+  if(ARG_EXPORTS)
+    target_compile_definitions(${name}_objects PUBLIC ${ARG_EXPORTS})
   endif()
-  add_library(${name} SHARED ${sources})
+  target_include_directories(${name}_objects
+    PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name}_objects PUBLIC ${ARG_DEPENDS} PRIVATE qv_options)
+
+  add_library(${name} SHARED $<TARGET_OBJECTS:${name}_objects> ${resources})
   set_target_properties(${name} PROPERTIES
-    PREFIX "" IMPORT_PREFIX "lib"
+    LINKER_LANGUAGE CXX PREFIX "" IMPORT_PREFIX "lib"
     RUNTIME_OUTPUT_DIRECTORY ${QV_STAGE}/bin
     ARCHIVE_OUTPUT_DIRECTORY ${QV_STAGE}/lib)
-  if(ARG_EXPORTS)
-    target_compile_definitions(${name} PRIVATE ${ARG_EXPORTS})
-  endif()
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE qv_options ${ARG_SYSTEM_LIBS})
   set_property(GLOBAL APPEND PROPERTY QV_PUBLIC_INCLUDE_DIRS ${CMAKE_CURRENT_SOURCE_DIR}/include)
+
+  add_library(${name}_inner STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${name}_objects>)
+  set_target_properties(${name}_inner PROPERTIES LINKER_LANGUAGE CXX)
+  target_compile_definitions(${name}_inner INTERFACE ${ARG_EXPORTS})
+  target_include_directories(${name}_inner
+    INTERFACE ${CMAKE_CURRENT_SOURCE_DIR}/include ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name}_inner INTERFACE ${ARG_DEPENDS} ${ARG_SYSTEM_LIBS})
 endfunction()
 
 # The C++ run-time goes beside the programs: exceptions and type information cross our DLLs, so all of them must

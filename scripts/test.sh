@@ -41,7 +41,6 @@ main() {
     say "build"
     build_tree mingw || die "the build failed"
     step "format" check_format
-    step "file lengths" check_file_lengths
     step "shell scripts" check_shell
     step "lint" check_lint
     step "fuzzing" fuzz_all "$FUZZ_CI_SECONDS"

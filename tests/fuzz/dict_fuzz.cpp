@@ -1,5 +1,5 @@
 // Feeds the dictionary parser with any bytes.
-#include "QVDictParse.h"
+#include "dictionary/QVDictParse.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,5 +1,5 @@
 // Feeds the skin parser with any bytes.
-#include "QVSkinParse.h"
+#include "skin/QVSkinParse.h"
 
 #include <cstdlib>
 

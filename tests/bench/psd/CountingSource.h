@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileByteSource.h"
+#include "layers/FileByteSource.h"
 
 // A file that counts what is read of it.
 class CountingSource final : public _qv_commonclass::psd::ByteSource {

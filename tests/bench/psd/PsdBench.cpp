@@ -2,7 +2,7 @@
 // ready-made reader (peers.sh measures those on the same documents and adds their figures to the table).
 #include "BareRecords.h"
 #include "CountingSource.h"
-#include "SystemLegacyDecoder.h"
+#include "layers/SystemLegacyDecoder.h"
 #include "builder/CollectedNames.h"
 #include "psd/LayerNames.h"
 

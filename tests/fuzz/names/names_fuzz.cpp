@@ -1,6 +1,6 @@
 // Feeds filters, paths and multi-selections with any texts and holds the answers to what must always be true.
-#include "FileNameRules.h"
-#include "TextCase.h"
+#include "support/FileNameRules.h"
+#include "support/TextCase.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // Every step and failure of the search for the colour-space library, played on made-up process services.
-#include "CoreLibrarySearch.h"
+#include "module/CoreLibrarySearch.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The tables that turn default texts into dictionary keys.
-#include "DictText.h"
+#include "module/DictText.h"
 
 #include <gtest/gtest.h>
 

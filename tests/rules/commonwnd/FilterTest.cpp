@@ -1,5 +1,5 @@
 // Splitting a filter text into the patterns of its pairs.
-#include "FileNameRules.h"
+#include "support/FileNameRules.h"
 
 #include <gtest/gtest.h>
 

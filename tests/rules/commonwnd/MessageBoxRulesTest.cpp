@@ -1,5 +1,5 @@
 // How far the message box grows for its question.
-#include "MessageBoxRules.h"
+#include "messages/MessageBoxRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Figures of the folder chooser.
-#include "PathBrowseLayout.h"
+#include "folders/PathBrowseLayout.h"
 
 #include <gtest/gtest.h>
 

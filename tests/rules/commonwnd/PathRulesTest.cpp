@@ -1,6 +1,6 @@
 // Paths taken apart, multi-selections split, extensions recognised.
-#include "FileNameRules.h"
-#include "TextCase.h"
+#include "support/FileNameRules.h"
+#include "support/TextCase.h"
 
 #include <gtest/gtest.h>
 

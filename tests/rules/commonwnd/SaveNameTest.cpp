@@ -1,5 +1,5 @@
 // The names a save dialog answers: path, extension, name, title.
-#include "FileNameRules.h"
+#include "support/FileNameRules.h"
 
 #include <gtest/gtest.h>
 

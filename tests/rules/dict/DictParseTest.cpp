@@ -1,4 +1,4 @@
-#include "QVDictParse.h"
+#include "dictionary/QVDictParse.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "QVMeterBallistics.h"
-#include "QVMeterRows.h"
+#include "meter/QVMeterBallistics.h"
+#include "meter/QVMeterRows.h"
 
 #include <gtest/gtest.h>
 

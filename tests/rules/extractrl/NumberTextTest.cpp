@@ -1,4 +1,4 @@
-#include "QVNumberText.h"
+#include "edits/QVNumberText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "QVTrackerGeometry.h"
+#include "tracker/QVTrackerGeometry.h"
 
 #include <gtest/gtest.h>
 

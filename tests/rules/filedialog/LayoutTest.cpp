@@ -1,5 +1,5 @@
 // Where the file dialog's parts stand: figures at 96 DPI and scaled.
-#include "FileDialogLayout.h"
+#include "filedialog/FileDialogLayout.h"
 
 #include "QVFileDialogDefs.h"
 

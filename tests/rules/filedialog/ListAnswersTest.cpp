@@ -1,4 +1,4 @@
-#include "ListAnswers.h"
+#include "fileview/ListAnswers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The look-in combo box's model: depths of rows, items of the shell by path and name.
-#include "ShellItems.h"
+#include "fileview/ShellItems.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The remembered folders in the profile.
-#include "PathSettings.h"
+#include "module/PathSettings.h"
 
 #include <QVCommonClass.h>
 

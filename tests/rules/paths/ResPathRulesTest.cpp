@@ -1,5 +1,5 @@
 // The judgement of the two typed folders and the form in which they are stored.
-#include "ResPathRules.h"
+#include "folders/ResPathRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "SystemLegacyDecoder.h"
+#include "layers/SystemLegacyDecoder.h"
 #include "psd/LegacyName.h"
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -1,5 +1,5 @@
 // Texts must be readable on every ground they are drawn on, in every skin that is shipped.
-#include "QVSkinParse.h"
+#include "skin/QVSkinParse.h"
 #include "StageFolder.h"
 #include "TempFolder.h"
 

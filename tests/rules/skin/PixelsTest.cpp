@@ -1,4 +1,4 @@
-#include "QVPixels.h"
+#include "paint/QVPixels.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "QVScrollGeometry.h"
+#include "scroll/QVScrollGeometry.h"
 
 #include <gtest/gtest.h>
 

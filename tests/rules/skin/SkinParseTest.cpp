@@ -1,4 +1,4 @@
-#include "QVSkinParse.h"
+#include "skin/QVSkinParse.h"
 
 #include <gtest/gtest.h>
 

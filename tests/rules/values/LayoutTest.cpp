@@ -1,6 +1,6 @@
-#include "ProgressRules.h"
-#include "StringDialogLayout.h"
-#include "VUFaceLayout.h"
+#include "messages/ProgressRules.h"
+#include "values/StringDialogLayout.h"
+#include "meters/VUFaceLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "IntegerText.h"
-#include "LuminanceUnits.h"
+#include "values/IntegerText.h"
+#include "values/LuminanceUnits.h"
 #include "QVSafeColor.h"
 
 #include <gtest/gtest.h>

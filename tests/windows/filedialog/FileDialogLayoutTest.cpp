@@ -1,6 +1,6 @@
 // Real dialogs measured: what was taken over, what stands where.
 #include "FileDialogFixture.h"
-#include "FileDialogLayout.h"
+#include "filedialog/FileDialogLayout.h"
 #include "PreviewProbe.h"
 
 #include <map>

@@ -4,9 +4,9 @@
 #include "FakeFilterSite.h"
 #include "ShellFixture.h"
 
-#include "BrowseCallback.h"
-#include "PathBrowseLayout.h"
-#include "QVPathBrowseWnd.h"
+#include "folders/BrowseCallback.h"
+#include "folders/PathBrowseLayout.h"
+#include "folders/QVPathBrowseWnd.h"
 #include "QVPathDialog.h"
 
 #include <QVDict.h>

@@ -2,8 +2,8 @@
 #include "FakeShellFolder.h"
 #include "ShellFixture.h"
 
-#include "ComHandle.h"
-#include "IUXFolderFilter.h"
+#include "support/ComHandle.h"
+#include "folders/IUXFolderFilter.h"
 
 #include <initguid.h>
 

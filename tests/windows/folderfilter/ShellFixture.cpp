@@ -1,6 +1,6 @@
 #include "ShellFixture.h"
 
-#include "ComHandle.h"
+#include "support/ComHandle.h"
 
 namespace folderfilter_test {
 

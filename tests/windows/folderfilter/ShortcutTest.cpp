@@ -1,7 +1,7 @@
 // Where shortcuts lead.
 #include "ShellFixture.h"
 
-#include "ShellShortcut.h"
+#include "folders/ShellShortcut.h"
 
 namespace folderfilter_test {
 

@@ -1,6 +1,6 @@
 #include "ValuesFixture.h"
 
-#include "LuminanceUnits.h"
+#include "values/LuminanceUnits.h"
 
 #include <cmath>
 #include <limits>

@@ -1,5 +1,5 @@
 // What one look-up of a template's default text costs.
-#include "DictText.h"
+#include "module/DictText.h"
 
 #include <benchmark/benchmark.h>
 

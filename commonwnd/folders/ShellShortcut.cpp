@@ -1,0 +1,54 @@
+#include "ShellShortcut.h"
+
+#include "support/ComHandle.h"
+#include "support/FileNameRules.h"
+#include "support/TextCase.h"
+
+#include <shlobj.h>
+
+namespace _qv_commonwnd {
+
+namespace {
+
+constexpr wchar_t kShortcutExtension[] = L".lnk";
+
+std::wstring_view ExtensionOf(const CString& path) {
+    return SplitPath({path.GetString(), static_cast<std::size_t>(path.GetLength())}).extension;
+}
+
+} // namespace
+
+CString ResolveShortcut(const CString& path) {
+    if (ExtensionOf(path) != kShortcutExtension)
+        return CString();
+    IShellLinkW* rawLink = nullptr;
+    if (FAILED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                  reinterpret_cast<void**>(&rawLink))))
+        return CString();
+    const ComHandle<IShellLinkW> link(rawLink);
+    IPersistFile* rawFile = nullptr;
+    if (FAILED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&rawFile))))
+        return CString();
+    const ComHandle<IPersistFile> file(rawFile);
+    wchar_t target[MAX_PATH] = L"";
+    if (FAILED(file->Load(path, STGM_READ)) ||
+        FAILED(link->GetPath(target, MAX_PATH, nullptr, SLGP_UNCPRIORITY)))
+        return CString();
+    target[MAX_PATH - 1] = L'\0';
+    return target;
+}
+
+CString ShortcutTargetOrSelf(const CString& path) {
+    return LowerText(ExtensionOf(path)) == kShortcutExtension ? ResolveShortcut(path) : path;
+}
+
+bool IsFoundFolder(const CString& path) {
+    WIN32_FIND_DATAW data = {};
+    const HANDLE search = ::FindFirstFileW(path, &data);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    ::FindClose(search);
+    return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+} // namespace _qv_commonwnd
