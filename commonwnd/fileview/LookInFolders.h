@@ -2,21 +2,15 @@
 #pragma once
 
 #include "SmallIcons.h"
+#include "support/Handles.h"
 
 #include <afxwin.h>
 
 #include <shlobj.h>
 
-#include <memory>
 #include <vector>
 
 namespace _qv_commonwnd {
-
-struct ItemIdDeleter {
-    using pointer = PIDLIST_ABSOLUTE;
-    void operator()(PIDLIST_ABSOLUTE id) const { ::CoTaskMemFree(id); }
-};
-using OwnedItemId = std::unique_ptr<ITEMIDLIST, ItemIdDeleter>;
 
 // The depth of each row from where its text begins: rows that begin at the same place stand equally deep, 0 being
 // the leftmost.

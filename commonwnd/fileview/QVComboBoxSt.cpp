@@ -1,5 +1,7 @@
 #include "QVComboBoxSt.h"
 
+#include "support/Handles.h"
+
 #include <QVSkin.h>
 
 namespace _qv_commonwnd {
@@ -34,11 +36,10 @@ bool ChangesRows(UINT message) {
 void DrawFolderText(CDC* dc, const CString& text, const CRect& rect, COLORREF color, UINT dpi) {
     CRect place(rect);
     const int font = QV_GetFontIndex(text);
-    CFont* const former = dc->SelectObject(QV_GetSysFont(font, dpi));
+    const Selection selected(dc->GetSafeHdc(), QV_GetSysFont(font, dpi)->GetSafeHandle());
     dc->SetBkMode(TRANSPARENT);
     dc->SetTextColor(color);
     dc->DrawText(text, place, DT_SINGLELINE | DT_VCENTER | DT_WORD_ELLIPSIS | DT_NOPREFIX);
-    dc->SelectObject(former);
 }
 
 IMPLEMENT_DYNAMIC(CQVComboBoxSt, CQVComboBox)

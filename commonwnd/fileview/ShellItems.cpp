@@ -1,5 +1,6 @@
 #include "ShellItems.h"
 
+#include <shlobj.h>
 #include <shlwapi.h>
 
 #include <cstring>
@@ -10,18 +11,6 @@ namespace _qv_commonwnd {
 namespace {
 
 constexpr std::size_t kEndBytes = sizeof(USHORT); // a list ends with an empty step
-
-// Releases a COM object at the end of a scope.
-template <class Interface> struct Released {
-    Interface* p = nullptr;
-    Released() = default;
-    Released(const Released&) = delete;
-    Released& operator=(const Released&) = delete;
-    ~Released() {
-        if (p)
-            p->Release();
-    }
-};
 
 USHORT StepBytes(const BYTE* at) {
     USHORT bytes = 0;
@@ -44,9 +33,8 @@ bool ShowsName(IShellFolder* folder, PCUITEMID_CHILD child, SHGDNF kind, const C
     if (FAILED(folder->GetDisplayNameOf(child, kind, &text)) ||
         FAILED(::StrRetToStrW(&text, child, &allocated)))
         return false;
-    const bool same = name == allocated;
-    ::CoTaskMemFree(allocated);
-    return same;
+    const TaskText shown(allocated);
+    return name == shown.get();
 }
 
 bool ShowsName(IShellFolder* folder, PCUITEMID_CHILD child, const CString& name) {
@@ -76,34 +64,29 @@ OwnedItemId AncestorAt(const ITEMIDLIST* id, int depth) {
 }
 
 bool HasName(PCIDLIST_ABSOLUTE id, const CString& name) {
-    Released<IShellFolder> parent;
+    ComHandle<IShellFolder> parent;
     PCUITEMID_CHILD child = nullptr;
-    return id &&
-           SUCCEEDED(::SHBindToParent(id, IID_IShellFolder, reinterpret_cast<void**>(&parent.p), &child)) &&
-           ShowsName(parent.p, child, name);
+    return id && SUCCEEDED(::SHBindToParent(id, IID_IShellFolder, parent.ReceiveAny(), &child)) &&
+           ShowsName(parent.Get(), child, name);
 }
 
 OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name) {
-    Released<IShellFolder> desktop;
-    Released<IShellFolder> folder;
-    if (!parent || FAILED(::SHGetDesktopFolder(&desktop.p)))
+    ComHandle<IShellFolder> desktop;
+    ComHandle<IShellFolder> folder;
+    if (!parent || FAILED(::SHGetDesktopFolder(desktop.Receive())))
         return nullptr;
     if (!StepBytes(reinterpret_cast<const BYTE*>(parent)))
-        std::swap(folder.p, desktop.p);
-    else if (FAILED(desktop.p->BindToObject(parent, nullptr, IID_IShellFolder,
-                                            reinterpret_cast<void**>(&folder.p))))
+        folder = std::move(desktop);
+    else if (FAILED(desktop->BindToObject(parent, nullptr, IID_IShellFolder, folder.ReceiveAny())))
         return nullptr;
-    Released<IEnumIDList> children;
-    if (folder.p->EnumObjects(nullptr, SHCONTF_FOLDERS | SHCONTF_INCLUDEHIDDEN, &children.p) != S_OK)
+    ComHandle<IEnumIDList> children;
+    if (folder->EnumObjects(nullptr, SHCONTF_FOLDERS | SHCONTF_INCLUDEHIDDEN, children.Receive()) != S_OK)
         return nullptr;
-    PITEMID_CHILD child = nullptr;
-    while (children.p->Next(1, &child, nullptr) == S_OK) {
-        OwnedItemId found;
-        if (ShowsName(folder.p, child, name))
-            found.reset(::ILCombine(parent, child));
-        ::CoTaskMemFree(child);
-        if (found)
-            return found;
+    PITEMID_CHILD raw = nullptr;
+    while (children->Next(1, &raw, nullptr) == S_OK) {
+        const OwnedChildId child(raw);
+        if (ShowsName(folder.Get(), child.get(), name))
+            return OwnedItemId(::ILCombine(parent, child.get()));
     }
     return nullptr;
 }

@@ -1,7 +1,9 @@
 // Items of the shell's name space by their id lists.
 #pragma once
 
-#include "LookInFolders.h"
+#include "support/Handles.h"
+
+#include <afxwin.h>
 
 namespace _qv_commonwnd {
 

@@ -1,5 +1,7 @@
 #include "ShellSelection.h"
 
+#include "support/Handles.h"
+
 #include <shellapi.h>
 
 #include <cstdint>
@@ -60,7 +62,7 @@ CString NameOf(const CString& path) {
     return path.Mid(path.ReverseFind(L'\\') + 1);
 }
 
-HBITMAP OnePixel(COLORREF color) {
+OwnedBitmap OnePixel(COLORREF color) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = 1;
@@ -68,10 +70,9 @@ HBITMAP OnePixel(COLORREF color) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     const std::uint32_t pixel = PixelOf(color);
-    const HDC screen = ::GetDC(nullptr);
-    const HBITMAP bitmap = ::CreateDIBitmap(screen, &info.bmiHeader, CBM_INIT, &pixel, &info, DIB_RGB_COLORS);
-    ::ReleaseDC(nullptr, screen);
-    return bitmap;
+    const WindowDC screen(nullptr);
+    return OwnedBitmap(
+        ::CreateDIBitmap(screen.Get(), &info.bmiHeader, CBM_INIT, &pixel, &info, DIB_RGB_COLORS));
 }
 
 } // namespace
@@ -151,14 +152,14 @@ void DropEdge(HWND list) {
 }
 
 void SetPlainGround(HWND list, COLORREF color) {
-    const HBITMAP pixel = OnePixel(color);
+    OwnedBitmap pixel = OnePixel(color);
     if (!pixel)
         return;
     LVBKIMAGEW image = {};
     image.ulFlags = LVBKIF_SOURCE_HBITMAP;
-    image.hbm = pixel;
-    if (!::SendMessageW(list, LVM_SETBKIMAGEW, 0, reinterpret_cast<LPARAM>(&image)))
-        ::DeleteObject(pixel);
+    image.hbm = pixel.get();
+    if (::SendMessageW(list, LVM_SETBKIMAGEW, 0, reinterpret_cast<LPARAM>(&image)))
+        pixel.release(); // the list's
 }
 
 } // namespace _qv_commonwnd

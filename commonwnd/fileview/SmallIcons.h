@@ -1,19 +1,13 @@
 // The small icons of shell items.
 #pragma once
 
-#include <windows.h>
+#include "support/Handles.h"
+
 #include <shlobj.h>
 
 #include <map>
-#include <memory>
 
 namespace _qv_commonwnd {
-
-struct IconDeleter {
-    using pointer = HICON;
-    void operator()(HICON icon) const { ::DestroyIcon(icon); }
-};
-using OwnedIcon = std::unique_ptr<HICON__, IconDeleter>;
 
 // Finding out which picture an item has takes the shell a while, copying the picture as long again: most folders share
 // one.

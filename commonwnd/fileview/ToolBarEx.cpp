@@ -1,5 +1,7 @@
 #include "ToolBarEx.h"
 
+#include "support/Handles.h"
+
 #include <QVMemoDC.h>
 #include <QVSkin.h>
 
@@ -57,13 +59,12 @@ void CToolBarEx::OnNcPaint() {
 
 void CToolBarEx::OnPaint() {
     CQVPaintMemoDC dc(this, QVCLR_WINDOW);
-    CFont* const former = dc.SelectObject(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(m_hWnd)));
+    const Selection font(dc, QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(m_hWnd))->GetSafeHandle());
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));
     const int count = GetButtonCount();
     for (int index = 0; index < count; ++index)
         PaintButton(&dc, index);
-    dc.SelectObject(former);
 }
 
 void CToolBarEx::PaintButton(CDC* dc, int index) const {

@@ -1,6 +1,6 @@
 #include "BrowseCallback.h"
 
-#include "support/ComHandle.h"
+#include "support/Handles.h"
 #include "IUXFolderFilter.h"
 #include "QVPathBrowseWnd.h"
 #include "QVPathDialog.h"
@@ -59,10 +59,9 @@ void OnSelectionChanged(PCIDLIST_ABSOLUTE item) {
 }
 
 void OnSite(IUnknown* unknown) {
-    IFolderFilterSite* raw = nullptr;
-    if (!unknown || FAILED(unknown->QueryInterface(IID_IFolderFilterSite, reinterpret_cast<void**>(&raw))))
+    ComHandle<IFolderFilterSite> site;
+    if (!unknown || FAILED(unknown->QueryInterface(IID_IFolderFilterSite, site.ReceiveAny())))
         return;
-    const ComHandle<IFolderFilterSite> site(raw);
     if (!g_pFolderFilter) {
         g_pFolderFilter = new IUXFolderFilter;
         g_pFolderFilter->AddRef();

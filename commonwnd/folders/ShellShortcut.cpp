@@ -1,7 +1,7 @@
 #include "ShellShortcut.h"
 
-#include "support/ComHandle.h"
 #include "support/FileNameRules.h"
+#include "support/Handles.h"
 #include "support/TextCase.h"
 
 #include <shlobj.h>
@@ -21,15 +21,12 @@ std::wstring_view ExtensionOf(const CString& path) {
 CString ResolveShortcut(const CString& path) {
     if (ExtensionOf(path) != kShortcutExtension)
         return CString();
-    IShellLinkW* rawLink = nullptr;
+    ComHandle<IShellLinkW> link;
+    ComHandle<IPersistFile> file;
     if (FAILED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                                  reinterpret_cast<void**>(&rawLink))))
+                                  link.ReceiveAny())) ||
+        FAILED(link->QueryInterface(IID_IPersistFile, file.ReceiveAny())))
         return CString();
-    const ComHandle<IShellLinkW> link(rawLink);
-    IPersistFile* rawFile = nullptr;
-    if (FAILED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&rawFile))))
-        return CString();
-    const ComHandle<IPersistFile> file(rawFile);
     wchar_t target[MAX_PATH] = L"";
     if (FAILED(file->Load(path, STGM_READ)) ||
         FAILED(link->GetPath(target, MAX_PATH, nullptr, SLGP_UNCPRIORITY)))

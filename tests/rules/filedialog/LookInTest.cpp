@@ -1,8 +1,10 @@
 // The look-in combo box's model: depths of rows, items of the shell by path and name.
+#include "fileview/LookInFolders.h"
 #include "fileview/ShellItems.h"
 
 #include <gtest/gtest.h>
 
+#include <shlobj.h>
 #include <shlwapi.h>
 
 namespace filedialog_rules {

@@ -2,8 +2,8 @@
 #include "FakeShellFolder.h"
 #include "ShellFixture.h"
 
-#include "support/ComHandle.h"
 #include "folders/IUXFolderFilter.h"
+#include "support/Handles.h"
 
 #include <initguid.h>
 
@@ -18,21 +18,20 @@ class FolderFilter : public Shell {
   protected:
     void SetUp() override {
         Shell::SetUp();
-        m_filter.reset(new IUXFolderFilter);
+        m_filter = ComHandle<IUXFolderFilter>(new IUXFolderFilter);
         m_filter->AddRef();
         m_filter->m_pszPattern = L"*.lnk";
     }
     void TearDown() override {
-        m_filter.reset();
+        m_filter = ComHandle<IUXFolderFilter>();
         Shell::TearDown();
     }
 
     HRESULT Show(const ItemId& id) const {
-        IShellFolder* raw = nullptr;
+        ComHandle<IShellFolder> folder;
         PCUITEMID_CHILD child = nullptr;
-        EXPECT_EQ(S_OK, ::SHBindToParent(id.get(), IID_IShellFolder, reinterpret_cast<void**>(&raw), &child));
-        const ComHandle<IShellFolder> folder(raw);
-        return m_filter->ShouldShow(folder.get(), nullptr, child);
+        EXPECT_EQ(S_OK, ::SHBindToParent(id.get(), IID_IShellFolder, folder.ReceiveAny(), &child));
+        return m_filter->ShouldShow(folder.Get(), nullptr, child);
     }
 
     ComHandle<IUXFolderFilter> m_filter;
@@ -50,7 +49,7 @@ TEST_F(FolderFilter, AnswersForItsInterfaces) {
     for (const IID& id : {IID_IUnknown, IID_IFolderFilter, IID(kFolderFilterId)}) {
         void* object = nullptr;
         ASSERT_EQ(S_OK, m_filter->QueryInterface(id, &object));
-        EXPECT_EQ(static_cast<IFolderFilter*>(m_filter.get()), object);
+        EXPECT_EQ(static_cast<IFolderFilter*>(m_filter.Get()), object);
         EXPECT_EQ(1u, m_filter->Release());
     }
     void* object = this;

@@ -1,6 +1,6 @@
 #include "ShellFixture.h"
 
-#include "support/ComHandle.h"
+#include "support/Handles.h"
 
 namespace folderfilter_test {
 
@@ -8,13 +8,11 @@ using _qv_commonwnd::ComHandle;
 
 std::wstring Shell::Shortcut(const std::wstring& name, const std::wstring& target) const {
     const std::wstring path = m_folder.path(name);
-    IShellLinkW* rawLink = nullptr;
-    IPersistFile* rawFile = nullptr;
+    ComHandle<IShellLinkW> link;
+    ComHandle<IPersistFile> file;
     EXPECT_EQ(S_OK, ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                                       reinterpret_cast<void**>(&rawLink)));
-    const ComHandle<IShellLinkW> link(rawLink);
-    EXPECT_EQ(S_OK, link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&rawFile)));
-    const ComHandle<IPersistFile> file(rawFile);
+                                       link.ReceiveAny()));
+    EXPECT_EQ(S_OK, link->QueryInterface(IID_IPersistFile, file.ReceiveAny()));
     link->SetPath(target.c_str());
     EXPECT_EQ(S_OK, file->Save(path.c_str(), TRUE));
     return path;
