@@ -1,5 +1,5 @@
 // The folder chooser.
-#include "GalleryItem.h"
+#include "gallery/GalleryItem.h"
 
 using namespace _qv_commonwnd;
 
@@ -8,7 +8,8 @@ namespace {
 void ChooseFolder(IGalleryContext& context) {
     CQVPathDialog dialog(context.MainWnd());
     dialog.m_strPath = context.SampleFolder();
-    context.Report(L"CQVPathDialog", dialog.DoModal() == IDOK ? dialog.GetPathName() : CString(L"IDCANCEL"));
+    if (context.Confirmed(L"CQVPathDialog", dialog.DoModal()))
+        context.Report(L"CQVPathDialog", dialog.GetPathName());
 }
 
 const GalleryRegistration chooseFolder({GalleryGroup::Folders, L"folder", L"IDS_GALLERY_FOLDER",

@@ -1,51 +1,16 @@
 // The open dialog's further forms: with a preview, for a whole folder, for the layers of a document.
-#include "FilePreviewWnd.h"
-#include "FolderFiles.h"
-#include "GalleryItem.h"
+#include "OpenReport.h"
+
+#include "gallery/GalleryItem.h"
+#include "windows/FilePreviewWnd.h"
+
+#include <vector>
 
 using namespace _qv_commonwnd;
 
 namespace {
 
 constexpr const wchar_t* kFilter = L"Pictures|*.png;*.jpg;*.bmp;*.psd|Sound|*.wav|All files|*.*|";
-
-void StartIn(CQVFileDialog& dialog, const CString& folder) {
-    if (!folder.IsEmpty())
-        dialog.m_ofn.lpstrInitialDir = folder;
-}
-
-void ReportNumber(IGalleryContext& context, LPCWSTR name, INT_PTR number) {
-    CString text;
-    text.Format(L"%d", static_cast<int>(number));
-    context.Report(name, text);
-}
-
-void ReportFiles(IGalleryContext& context, CQVFileDialog& dialog) {
-    int count = 0;
-    for (POSITION pos = dialog.GetStartPosition(); pos; ++count)
-        context.Report(L"file", dialog.GetNextPathName(pos));
-    ReportNumber(context, L"files", count);
-}
-
-// Imports what a folder holds of the chosen type.
-void ReportFolder(IGalleryContext& context, CQVFileDialog& dialog) {
-    context.Report(L"folder", dialog.GetSelForderPath());
-    context.Report(L"format", dialog.GetSelFileFormat());
-    CStringArray files;
-    ListFolderFiles(dialog.GetSelForderPath(), PatternOfType(kFilter, dialog.GetSelFileFormat()), files);
-    for (INT_PTR i = 0; i < files.GetSize(); ++i)
-        context.Report(L"file", files.GetAt(i));
-    ReportNumber(context, L"files", files.GetSize());
-}
-
-void Report(IGalleryContext& context, CQVFileDialog& dialog, INT_PTR end) {
-    if (end != IDOK)
-        context.Report(L"CQVFileDialog", L"IDCANCEL");
-    else if (dialog.GetSelTpye() == eSelForder)
-        ReportFolder(context, dialog);
-    else
-        ReportFiles(context, dialog);
-}
 
 void OpenWithPreview(IGalleryContext& context) {
     CFilePreviewWnd preview(context);
@@ -56,7 +21,7 @@ void OpenWithPreview(IGalleryContext& context) {
     const CString folder = context.SampleFolder();
     StartIn(dialog, folder);
     dialog.SetAdvanceWnd(&preview);
-    Report(context, dialog, dialog.DoModal());
+    ReportOpened(context, dialog, dialog.DoModal(), kFilter);
 }
 
 void ImportFolder(IGalleryContext& context) {
@@ -64,7 +29,7 @@ void ImportFolder(IGalleryContext& context) {
                          FDO_IMPORTFOLDER);
     const CString folder = context.SampleFolder();
     StartIn(dialog, folder);
-    Report(context, dialog, dialog.DoModal());
+    ReportOpened(context, dialog, dialog.DoModal(), kFilter);
 }
 
 // One line for each layer of the document, the bottom one first: taken or left out.
@@ -83,20 +48,17 @@ void ImportLayers(IGalleryContext& context) {
     dialog.EnableLayerInfo(2); // the panel may appear
     const CString folder = context.SampleFolder();
     StartIn(dialog, folder);
-    const INT_PTR end = dialog.DoModal();
-    Report(context, dialog, end);
-    if (end != IDOK)
+    if (!ReportOpened(context, dialog, dialog.DoModal(), kFilter))
         return;
     context.Report(L"import", dialog.IsCompileImportType() ? L"rendered" : L"by layers");
     if (!dialog.IsCompileImportType())
         ReportLayers(context, dialog);
 }
 
-const GalleryRegistration preview({GalleryGroup::Files, L"open-preview", L"IDS_GALLERY_OPENPREVIEW",
-                                   OpenWithPreview});
-const GalleryRegistration importFolder({GalleryGroup::Files, L"import-folder", L"IDS_GALLERY_IMPORTFOLDER",
-                                        ImportFolder});
-const GalleryRegistration importLayers({GalleryGroup::Files, L"open-psd", L"IDS_GALLERY_OPENPSD",
-                                        ImportLayers});
+const GalleryRegistration items[] = {
+    GalleryRegistration({GalleryGroup::Files, L"open-preview", L"IDS_GALLERY_OPENPREVIEW", OpenWithPreview}),
+    GalleryRegistration({GalleryGroup::Files, L"import-folder", L"IDS_GALLERY_IMPORTFOLDER", ImportFolder}),
+    GalleryRegistration({GalleryGroup::Files, L"open-psd", L"IDS_GALLERY_OPENPSD", ImportLayers}),
+};
 
 } // namespace

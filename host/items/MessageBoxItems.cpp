@@ -1,5 +1,5 @@
 // The Yes/No question with its tick box, and forgetting the remembered answer.
-#include "GalleryItem.h"
+#include "gallery/GalleryItem.h"
 
 using namespace _qv_commonwnd;
 using namespace _qv_commonctrl;
@@ -7,38 +7,31 @@ using namespace _qv_commonctrl;
 namespace {
 
 CString AnswerName(UINT answer) {
-    switch (answer) {
-    case 2:
-        return L"2 (Yes)";
-    case 4:
-        return L"4 (No)";
-    case 8:
-        return L"8 (Cancel)";
-    default: {
-        CString text;
-        text.Format(L"%u", answer);
-        return text;
-    }
-    }
+    CString text;
+    text.Format(L"%u%s", answer,
+                answer == QVMESSAGE_YES      ? L" (Yes)"
+                : answer == QVMESSAGE_NO     ? L" (No)"
+                : answer == QVMESSAGE_CANCEL ? L" (Cancel)"
+                                             : L"");
+    return text;
+}
+
+void Ask(IGalleryContext& context, LPCWSTR questionKey) {
+    const UINT answer = QV_MessageBox(QV_LoadSysString(L"IDS_GALLERY_ASK_CAPTION"),
+                                      QV_LoadSysString(questionKey), MB_YESNO, context.MainWnd());
+    context.Report(L"QV_MessageBox", AnswerName(answer));
 }
 
 void AskQuestion(IGalleryContext& context) {
-    const UINT answer = QV_MessageBox(QV_LoadSysString(L"IDS_GALLERY_ASK_CAPTION"),
-                                      QV_LoadSysString(L"IDS_GALLERY_ASK_TEXT"), MB_YESNO, context.MainWnd());
-    context.Report(L"QV_MessageBox", AnswerName(answer));
+    Ask(context, L"IDS_GALLERY_ASK_TEXT");
 }
 
 void AskLongQuestion(IGalleryContext& context) {
-    const UINT answer =
-        QV_MessageBox(QV_LoadSysString(L"IDS_GALLERY_ASK_CAPTION"),
-                      QV_LoadSysString(L"IDS_GALLERY_ASKLONG_TEXT"), MB_YESNO, context.MainWnd());
-    context.Report(L"QV_MessageBox", AnswerName(answer));
+    Ask(context, L"IDS_GALLERY_ASKLONG_TEXT");
 }
 
 void ForgetAnswer(IGalleryContext& context) {
-    CString result;
-    result.Format(L"%u", QV_MessageRest());
-    context.Report(L"QV_MessageRest", result);
+    context.ReportNumber(L"QV_MessageRest", QV_MessageRest());
 }
 
 const GalleryRegistration ask({GalleryGroup::Messages, L"messagebox", L"IDS_GALLERY_MESSAGEBOX",

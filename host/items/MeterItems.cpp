@@ -1,7 +1,6 @@
 // The meter frame, fed from a sound file and from a full face of generated channels.
-#include "GalleryItem.h"
-
-#include "MeterPlayer.h"
+#include "gallery/GalleryItem.h"
+#include "windows/MeterPlayer.h"
 
 using namespace _qv_commonctrl;
 

@@ -1,5 +1,5 @@
 // Media that a project names and that are not there: the host looks for them, the prompt lists them.
-#include "GalleryItem.h"
+#include "gallery/GalleryItem.h"
 
 #include <shlwapi.h>
 
@@ -35,6 +35,7 @@ const wchar_t* Translate(const wchar_t* text) {
     return text;
 }
 
+// The translation holds as long as the prompt runs.
 class TranslationScope {
   public:
     TranslationScope() : m_former(QV_SetDictCallBack(&Translate)) {}
@@ -54,9 +55,7 @@ void CheckProject(IGalleryContext& context) {
         if (!PathFileExistsW(path))
             missing.Add(path);
     }
-    CString count;
-    count.Format(L"%d", static_cast<int>(missing.GetSize()));
-    context.Report(L"missing", count);
+    context.ReportNumber(L"missing", missing.GetSize());
     const TranslationScope translation;
     CQVFilePathShowTip prompt(context.MainWnd());
     prompt.SetFile(missing);

@@ -1,5 +1,5 @@
 // The working folders: the check at the application's start and the settings themselves.
-#include "GalleryItem.h"
+#include "gallery/GalleryItem.h"
 
 #include <QVCommonClass.h>
 
@@ -19,10 +19,8 @@ void CheckFirstStart(IGalleryContext& context) {
 
 void EditPaths(IGalleryContext& context) {
     CQVSetResPath dialog(context.MainWnd());
-    if (dialog.DoModal() == IDOK)
+    if (context.Confirmed(L"CQVSetResPath", dialog.DoModal()))
         ReportStored(context);
-    else
-        context.Report(L"CQVSetResPath", L"IDCANCEL");
 }
 
 const GalleryRegistration firstStart({GalleryGroup::Folders, L"firststart", L"IDS_GALLERY_FIRSTSTART",

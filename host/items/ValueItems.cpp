@@ -1,5 +1,5 @@
 // The dialogs that ask for one value.
-#include "GalleryItem.h"
+#include "gallery/GalleryItem.h"
 
 using namespace _qv_commonwnd;
 using namespace _qv_commonctrl;
@@ -8,37 +8,25 @@ namespace {
 
 constexpr wchar_t kFileNameForbids[] = L"\\/:*?\"<>|";
 
-CString Number(long long value) {
-    CString text;
-    text.Format(L"%I64d", value);
-    return text;
-}
-
-bool Confirmed(IGalleryContext& context, LPCWSTR name, INT_PTR end) {
-    if (end == IDOK)
-        return true;
-    context.Report(name, end == IDCANCEL ? L"IDCANCEL" : L"-1");
-    return false;
+void AskNumber(IGalleryContext& context, CQVGetIntDlg& dialog, LPCWSTR titleKey, LPCWSTR labelKey) {
+    dialog.m_strTitle = QV_LoadSysString(titleKey);
+    dialog.m_strLabel = QV_LoadSysString(labelKey);
+    if (context.Confirmed(L"CQVGetIntDlg", dialog.DoModal()))
+        context.ReportNumber(L"CQVGetIntDlg", dialog.m_nValue);
 }
 
 void EnterInteger(IGalleryContext& context) {
     CQVGetIntDlg dialog(context.MainWnd());
-    dialog.m_strTitle = QV_LoadSysString(L"IDS_GALLERY_INTEGER");
-    dialog.m_strLabel = QV_LoadSysString(L"IDS_COMMON_FRAME");
     dialog.m_strIncludeKey = L"0123456789-";
     dialog.m_nValue = 250;
-    if (Confirmed(context, L"CQVGetIntDlg", dialog.DoModal()))
-        context.Report(L"CQVGetIntDlg", Number(dialog.m_nValue));
+    AskNumber(context, dialog, L"IDS_GALLERY_INTEGER", L"IDS_COMMON_FRAME");
 }
 
 void EnterDuration(IGalleryContext& context) {
     CQVGetIntDlg dialog(context.MainWnd());
-    dialog.m_strTitle = QV_LoadSysString(L"IDS_GALLERY_INTEGER_TIMECODE");
-    dialog.m_strLabel = QV_LoadSysString(L"IDS_COMMON_TIMECODE");
     dialog.m_nType = QVGETINT_TIMECODE;
     dialog.m_nValue = 1500;
-    if (Confirmed(context, L"CQVGetIntDlg", dialog.DoModal()))
-        context.Report(L"CQVGetIntDlg", Number(dialog.m_nValue));
+    AskNumber(context, dialog, L"IDS_GALLERY_INTEGER_TIMECODE", L"IDS_COMMON_TIMECODE");
 }
 
 void EnterName(IGalleryContext& context) {
@@ -46,7 +34,7 @@ void EnterName(IGalleryContext& context) {
     dialog.m_strTitle = QV_LoadSysString(L"IDS_GALLERY_STRING");
     dialog.m_strText = L"Sequence 01";
     dialog.m_strInvalidChar = kFileNameForbids;
-    if (Confirmed(context, L"CQVGetStrDlg", dialog.DoModal()))
+    if (context.Confirmed(L"CQVGetStrDlg", dialog.DoModal()))
         context.Report(L"CQVGetStrDlg", dialog.m_strText);
 }
 
@@ -54,21 +42,21 @@ void EnterNote(IGalleryContext& context) {
     CQVGetStrDlg dialog(context.MainWnd());
     dialog.m_strTitle = QV_LoadSysString(L"IDS_GALLERY_STRING_WINDOW");
     dialog.m_bAllowEmpty = TRUE;
-    if (Confirmed(context, L"CQVGetStrDlg", dialog.DoModalWindow()))
+    if (context.Confirmed(L"CQVGetStrDlg", dialog.DoModalWindow()))
         context.Report(L"CQVGetStrDlg", dialog.m_strText);
 }
 
 void GoToTimecode(IGalleryContext& context) {
     CQVGetPointDlg dialog(context.MainWnd());
-    dialog.SetFrameRate(TimecodeFrameRate(29.97, 1));
+    dialog.SetFrameRate(TimecodeFrameRate(29.97, TRUE));
     dialog.m_nFrame = 1800;
-    if (Confirmed(context, L"CQVGetPointDlg", dialog.DoModal()))
-        context.Report(L"CQVGetPointDlg", Number(dialog.m_nFrame));
+    if (context.Confirmed(L"CQVGetPointDlg", dialog.DoModal()))
+        context.ReportNumber(L"CQVGetPointDlg", dialog.m_nFrame);
 }
 
 void EditSafeColors(IGalleryContext& context) {
     CQVSafeColorDlg dialog(context.MainWnd());
-    if (!Confirmed(context, L"CQVSafeColorDlg", dialog.DoModal()))
+    if (!context.Confirmed(L"CQVSafeColorDlg", dialog.DoModal()))
         return;
     const tag_QVSafeColor& color = dialog.m_SafeColor;
     CString text;

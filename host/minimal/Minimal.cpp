@@ -15,12 +15,12 @@ class CEditorApp : public CWinApp {
   private:
     void OpenClip() {
         CQVFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST,
-                             L"Video|*.avi;*.mxf;*.mov|All files|*.*|", nullptr, 0, FALSE, FALSE, 1);
+                             L"Video|*.avi;*.mxf;*.mov|All files|*.*|", nullptr, 0, FALSE, FALSE, FDO_KEEPOK);
         if (dialog.DoModal() != IDOK)
             return;
         const UINT answer = QV_MessageBox(L"Editor", L"Add " + dialog.GetFileName() + L" to the timeline?",
                                           MB_YESNO, nullptr);
-        if (answer == 2) // Yes
+        if (answer == QVMESSAGE_YES)
             AfxMessageBox(L"Added: " + dialog.GetPathName());
     }
 };

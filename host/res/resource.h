@@ -1,3 +1,4 @@
+// resource.h: ids of the gallery's dialogs and controls.
 #pragma once
 
 #define IDD_GALLERY 100
@@ -14,3 +15,4 @@
 // Group titles have ids from IDC_GALLERY_FIRST_GROUP, the buttons of the entries from IDC_GALLERY_FIRST_ITEM.
 #define IDC_GALLERY_FIRST_GROUP 1100
 #define IDC_GALLERY_FIRST_ITEM 1200
+#define IDC_GALLERY_LAST_ITEM 1299
