@@ -3,11 +3,15 @@
 #   scripts/bench.sh [NAME-PART...]     only the programs whose names contain one of the parts
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-for part in common packages build wine benchmark; do
+for part in common packages build prefix display shards source-package; do
     # shellcheck source=/dev/null
     source "$here/lib/$part.sh"
 done
 
+readonly BENCH_SOURCE=$QV_BUILD/deps/benchmark # Google Benchmark: Debian has no build of it for Windows
+readonly BENCH_RESULTS=$QV_BUILD/bench-results
+
+# $1: name, the rest: parts of names. Whether the name has one of them; no part means every name.
 wanted() {
     local name=$1 part
     shift
@@ -41,9 +45,8 @@ run_peers() {
 main() {
     need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
     wine_stop_at_exit
-    get_benchmark_source
-    configure_tree mingw
-    (cd "$QV_ROOT" && cmake --preset mingw -Wno-dev --log-level=WARNING -DQV_BENCHMARK_SOURCE="$BENCH_SOURCE")
+    get_source_package benchmark "$BENCH_SOURCE"
+    configure_tree mingw "-DQV_BENCHMARK_SOURCE=$BENCH_SOURCE"
     build_tree mingw all qv_benchmarks
     rm -rf "$BENCH_RESULTS"
     mkdir -p "$BENCH_RESULTS"

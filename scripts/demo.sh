@@ -4,7 +4,7 @@
 #   scripts/demo.sh [--tour]
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-for part in common packages build wine; do
+for part in common packages build prefix display shards; do
     # shellcheck source=/dev/null
     source "$here/lib/$part.sh"
 done

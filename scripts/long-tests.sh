@@ -5,7 +5,7 @@
 #   scripts/long-tests.sh VISITS MESSAGES
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-for part in common packages build wine; do
+for part in common packages build prefix display shards; do
     # shellcheck source=/dev/null
     source "$here/lib/$part.sh"
 done
@@ -14,7 +14,6 @@ visits=${1:-200} messages=${2:-1000000}
 [[ $visits$messages =~ ^[0-9]+$ ]] || die "usage: scripts/long-tests.sh [VISITS MESSAGES]"
 need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}"
 wine_stop_at_exit
-configure_tree mingw
 build_tree mingw qv_filedialog_test
 QV_DIALOG_VISITS=$visits QV_STORM_MESSAGES=$messages "$here/run-pe.sh" \
     "$QV_BUILD/mingw/tests/qv_filedialog_test.exe" --gtest_filter='FileDialogLife.*'

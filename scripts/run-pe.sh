@@ -10,10 +10,10 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 if [[ -n ${QV_TEST_RUN:-} ]]; then
     export QV_STAGE=${QV_TEST_RUN#*:} WINEDEBUG=${WINEDEBUG:--all,err+heap,warn+heap}
 fi
-# shellcheck source=scripts/lib/common.sh
-source "$here/lib/common.sh"
-# shellcheck source=scripts/lib/wine.sh
-source "$here/lib/wine.sh"
+for part in common prefix display shards; do
+    # shellcheck source=/dev/null
+    source "$here/lib/$part.sh"
+done
 
 (($# > 0)) || die "usage: scripts/run-pe.sh PROGRAM.exe [ARGUMENT...]"
 if [[ ${QV_TEST_RUN:-} == window:* ]]; then

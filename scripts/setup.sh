@@ -4,10 +4,10 @@
 #   scripts/setup.sh [all|run]     run: without the checkers
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck source=scripts/lib/common.sh
-source "$here/lib/common.sh"
-# shellcheck source=scripts/lib/packages.sh
-source "$here/lib/packages.sh"
+for part in common packages; do
+    # shellcheck source=/dev/null
+    source "$here/lib/$part.sh"
+done
 
 case ${1:-all} in
 run) need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" ;;

@@ -4,7 +4,7 @@
 #   scripts/test.sh [CTEST-ARGUMENT...]     e.g. scripts/test.sh -R framework
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-for part in common packages build wine checks fuzz; do
+for part in common packages build prefix display shards checks fuzz; do
     # shellcheck source=/dev/null
     source "$here/lib/$part.sh"
 done

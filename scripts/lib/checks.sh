@@ -6,6 +6,8 @@ check_format() {
         xargs -0 -r clang-format --dry-run -Werror)
 }
 
-check_shell() { (cd "$QV_ROOT" && shellcheck -x scripts/*.sh .ci/run); }
+check_shell() {
+    (cd "$QV_ROOT" && git ls-files -z --cached --others --exclude-standard '*.sh' .ci/run | xargs -0 -r shellcheck -x)
+}
 
 check_lint() { "$QV_ROOT/scripts/lint.py"; }

@@ -1,5 +1,6 @@
 # shellcheck shell=bash
 # Debian packages by what they are needed for. Needs lib/common.sh.
+# shellcheck disable=SC2034 # the lists are for the scripts that source this file
 
 readonly BUILD_PACKAGES=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest librsvg2-bin)
 readonly RUN_PACKAGES=(wine64 fonts-wine fonts-liberation fonts-wqy-microhei xvfb locales xdotool)
