@@ -1,10 +1,10 @@
 #include "BrowseCallback.h"
 
-#include "support/Handles.h"
 #include "IUXFolderFilter.h"
 #include "QVPathBrowseWnd.h"
-#include "QVPathDialog.h"
 #include "ShellShortcut.h"
+#include "support/Handles.h"
+#include "QVPathDialog.h"
 
 #include <io.h>
 

@@ -1,6 +1,7 @@
 #include "IUXFolderFilter.h"
 
 #include "ShellShortcut.h"
+#include "support/Handles.h"
 
 #include <shlwapi.h>
 
@@ -13,11 +14,10 @@ CString ParsingName(IShellFolder* folder, PCUITEMID_CHILD itemId) {
     STRRET record = {};
     wchar_t* text = nullptr;
     if (FAILED(folder->GetDisplayNameOf(itemId, SHGDN_FORPARSING, &record)) ||
-        FAILED(::StrRetToStrW(&record, itemId, &text)) || !text)
+        FAILED(::StrRetToStrW(&record, itemId, &text)))
         return CString();
-    const CString name(text);
-    ::CoTaskMemFree(text);
-    return name;
+    const TaskText owned(text);
+    return CString(text);
 }
 
 bool IsVirtualName(const CString& name) {

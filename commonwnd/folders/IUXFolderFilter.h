@@ -12,7 +12,8 @@
 
 namespace _qv_commonwnd {
 
-// COM interfaces have no virtual destructor: a further virtual function would stand in the table that callers know.
+// COM interfaces have no virtual destructor: a further virtual function would stand in the table that callers
+// know.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 class IUXFolderFilter final : public IFolderFilter {

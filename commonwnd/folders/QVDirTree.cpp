@@ -1,6 +1,6 @@
 #include "QVDirTree.h"
 
-#include "module/PathSettings.h"
+#include "module/StoredPaths.h"
 
 #include <QVSkin.h>
 

@@ -1,7 +1,7 @@
 #include "QVFilePathShowTip.h"
 
-#include "support/WindowText.h"
 #include "res/ResourceIds.h"
+#include "support/WindowText.h"
 
 #include <LWSupportAPI.h>
 #include <QVListControls.h>

@@ -3,6 +3,7 @@
 #include "BrowseCallback.h"
 #include "QVPathBrowseWnd.h"
 #include "ShellShortcut.h"
+#include "support/Handles.h"
 
 #include <LWSupportAPI.h>
 
@@ -73,15 +74,14 @@ INT_PTR CQVPathDialog::DoModal() {
     info.lParam = reinterpret_cast<LPARAM>(this);
     if (m_pBrowseWnd)
         m_pBrowseWnd->m_bShowNewFolder = m_bShowNewFolder;
-    const PIDLIST_ABSOLUTE chosen = ::SHBrowseForFolderW(&info);
+    const OwnedItemId chosen(::SHBrowseForFolderW(&info));
     if (!chosen) {
         m_strPath.Empty();
         return IDCANCEL;
     }
     wchar_t path[MAX_PATH] = L"";
-    if (::SHGetPathFromIDListW(chosen, path))
+    if (::SHGetPathFromIDListW(chosen.get(), path))
         m_strPath = ShortcutTargetOrSelf(path);
-    ::CoTaskMemFree(chosen);
     return IDOK;
 }
 

@@ -1,13 +1,13 @@
 #include "QVSetResPath.h"
 
-#include "support/DialogRows.h"
+#include "ResPathRules.h"
 #include "module/DictText.h"
-#include "module/PathSettings.h"
+#include "module/StoredPaths.h"
+#include "res/ResourceIds.h"
+#include "support/DialogRows.h"
+#include "support/WindowText.h"
 #include "QVModule.h"
 #include "QVPathDialog.h"
-#include "ResPathRules.h"
-#include "support/WindowText.h"
-#include "res/ResourceIds.h"
 
 #include <QVCommonClass.h>
 
@@ -22,6 +22,33 @@ namespace {
 
 PathState StateOf(const CString& path) {
     return PathFileExistsW(path) ? PathState::There : PathState::Missing;
+}
+
+CString FieldText(const CWnd& dialog, int id) {
+    return WindowTextOf(dialog.GetDlgItem(id));
+}
+
+void EnableOkOnChange(const CWnd& dialog, int id, const CString& former) {
+    if (FieldText(dialog, id).CompareNoCase(former) != 0)
+        dialog.GetDlgItem(IDOK)->EnableWindow();
+}
+
+void Browse(CWnd& dialog, int id) {
+    const CString former = FieldText(dialog, id);
+    CQVPathDialog chooser(nullptr);
+    if (chooser.DoModal() != IDOK)
+        return;
+    dialog.SetDlgItemText(id, chooser.GetPathName());
+    EnableOkOnChange(dialog, id, former);
+}
+
+void Store(CQVSetResPath& dialog, const CString& resource, const CString& media) {
+    if (lstrcmpW(resource, dialog.m_strResPath) == 0 && lstrcmpW(media, dialog.m_strMediaPath) == 0)
+        return;
+    dialog.m_strResPath = resource;
+    dialog.m_strMediaPath = media;
+    StorePath(kResPathKey, resource);
+    StorePath(kMediaPathKey, media);
 }
 
 } // namespace
@@ -68,46 +95,28 @@ BOOL CQVSetResPath::OnInitDialog() {
     return TRUE;
 }
 
-CString CQVSetResPath::FieldText(int id) const {
-    return TextOf(GetDlgItem(id));
-}
-
-void CQVSetResPath::EnableOkOnChange(int id, const CString& former) {
-    if (FieldText(id).CompareNoCase(former) != 0)
-        GetDlgItem(IDOK)->EnableWindow();
-}
-
-void CQVSetResPath::Browse(int id) {
-    const CString former = FieldText(id);
-    CQVPathDialog chooser(nullptr);
-    if (chooser.DoModal() != IDOK)
-        return;
-    SetDlgItemText(id, chooser.GetPathName());
-    EnableOkOnChange(id, former);
-}
-
 void CQVSetResPath::OnBnClickedButton1() {
-    Browse(IDC_RESPATH_EDIT);
+    Browse(*this, IDC_RESPATH_EDIT);
 }
 
 void CQVSetResPath::OnBnClickedButton2() {
-    Browse(IDC_MEDIAPATH_EDIT);
+    Browse(*this, IDC_MEDIAPATH_EDIT);
 }
 
 void CQVSetResPath::OnEnChangeRespath() {
-    EnableOkOnChange(IDC_RESPATH_EDIT, m_strResPath);
+    EnableOkOnChange(*this, IDC_RESPATH_EDIT, m_strResPath);
 }
 
 void CQVSetResPath::OnEnChangeFilepath() {
-    EnableOkOnChange(IDC_MEDIAPATH_EDIT, m_strMediaPath);
+    EnableOkOnChange(*this, IDC_MEDIAPATH_EDIT, m_strMediaPath);
 }
 
 void CQVSetResPath::OnBnClickedOk() {
-    const CString resource = FieldText(IDC_RESPATH_EDIT).Trim();
-    const CString media = FieldText(IDC_MEDIAPATH_EDIT).Trim();
+    const CString resource = FieldText(*this, IDC_RESPATH_EDIT).Trim();
+    const CString media = FieldText(*this, IDC_MEDIAPATH_EDIT).Trim();
     const PathVerdict verdict = JudgePaths(StateOf(resource), StateOf(media));
     if (verdict.message.IsEmpty()) {
-        Store(WithoutTrailingBackslashes(resource), WithoutTrailingBackslashes(media));
+        Store(*this, WithoutTrailingBackslashes(resource), WithoutTrailingBackslashes(media));
         CDialog::OnOK();
         return;
     }
@@ -116,15 +125,6 @@ void CQVSetResPath::OnBnClickedOk() {
         SetDlgItemText(IDC_RESPATH_EDIT, m_strResPath);
     else
         SetDlgItemText(IDC_MEDIAPATH_EDIT, m_strMediaPath);
-}
-
-void CQVSetResPath::Store(const CString& resource, const CString& media) {
-    if (lstrcmpW(resource, m_strResPath) == 0 && lstrcmpW(media, m_strMediaPath) == 0)
-        return;
-    m_strResPath = resource;
-    m_strMediaPath = media;
-    StorePath(kResPathKey, resource);
-    StorePath(kMediaPathKey, media);
 }
 
 void CQVSetResPath::OnBnClickedCancel() {

@@ -43,8 +43,8 @@ void CQVTreeView::ApplySkin() {
     Invalidate(FALSE);
 }
 
-// Reaches the tree where its parent is a window of the framework; elsewhere the rows have the skin's colours and the
-// system's selection.
+// Reaches the tree where its parent is a window of the framework; elsewhere the rows have the skin's colours
+// and the system's selection.
 BOOL CQVTreeView::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
     if (message == WM_NOTIFY && result &&
         reinterpret_cast<NMHDR*>(lParam)->code == static_cast<UINT>(NM_CUSTOMDRAW)) {

@@ -14,11 +14,12 @@ struct PathVerdict {
     PathField restore = PathField::None; // the field that gets its former text back
 };
 
-// What is wrong with the two folders. A missing media folder puts its line after a line break, with or without a line
-// before it, and is the one whose field is restored when both are missing.
+// What is wrong with the two folders. A missing media folder puts its line after a line break, with or
+// without a line before it, and is the one whose field is restored when both are missing.
 PathVerdict JudgePaths(PathState resource, PathState media);
 
-// Without the back-slashes at the end, drive roots ("C:\" becomes "C:") and paths of back-slashes only included.
+// Without the back-slashes at the end, drive roots ("C:\" becomes "C:") and paths of back-slashes only
+// included.
 CString WithoutTrailingBackslashes(CString path);
 
 } // namespace _qv_commonwnd

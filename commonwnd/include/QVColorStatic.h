@@ -1,11 +1,12 @@
+// QVColorStatic.h: a static control under a run-time class of the library.
 #pragma once
 
 #include "QVCommonWndApi.h"
 
 namespace _qv_commonwnd {
 
-// A static control under the library's own run-time class: no fields, no messages, in everything else
-// CStatic. Hosts use it to tell the library's labels apart (IsKindOf).
+// A CStatic in everything but its run-time class: no fields, no messages of its own. For hosts; no window of
+// the library makes one.
 class QVCOMMONWND_API CQVColorStatic : public CStatic {
     DECLARE_DYNAMIC(CQVColorStatic)
 

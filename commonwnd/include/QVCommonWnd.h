@@ -16,17 +16,18 @@
 //
 // What holds for all of it:
 //  - Threads: everything runs on the host's user-interface thread, unless a member says otherwise. The
-//  library
-//    starts no threads of its own.
+//    directory tree lists folders on threads of the control library; of the host nothing runs there but a
+//    lister that it has set itself (QV_SetFolderLister).
 //  - Texts are UTF-16; paths are absolute Windows paths with back slashes. Lengths count UTF-16 units.
 //  - Pixels are those of a 96 DPI window and are scaled with the window's DPI.
 //  - Dialogs are objects of the host: construct, set public members, DoModal, read back. Pointers given to a
-//  dialog
-//    are borrowed and must outlive its DoModal. What a dialog creates it destroys.
+//    dialog are borrowed and must outlive its DoModal. What a dialog creates it destroys.
 //  - DoModal answers IDOK (1) or IDCANCEL (2), and -1 when the window could not be created.
+//  - A dialog without a parent is owned by the host's main window (AfxGetMainWnd), if there is one; the
+//    folder chooser by the active window.
 //  - Nothing throws. Bad input (null pointers, missing files, broken data) has a documented answer.
 //  - Texts come from the dictionary, colours, fonts and images from the skin, remembered folders from the
-//  profile.
+//    profile.
 #pragma once
 
 #include "QVCommonWndApi.h"
@@ -40,7 +41,7 @@
 #include "QVSetResPath.h"
 #include "QVPathSettings.h"
 #include "QVFilePathShowTip.h"
-#include "QVProgressDlg.h"
+#include "Z5ProgressDlg.h"
 #include "QVSafeColorDlg.h"
 #include "QVVUFrame.h"
 #include "QVGetIntDlg.h"

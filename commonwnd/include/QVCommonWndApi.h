@@ -1,5 +1,4 @@
-// QVCommonWndApi.h: linkage of the classes and functions of QVCommonWndU.dll and the private messages they
-// exchange with the host.
+// QVCommonWndApi.h: linkage of the classes and functions of QVCommonWndU.dll.
 #pragma once
 
 #include <afxwin.h>

@@ -1,4 +1,8 @@
 // QVModule.h: start, stop and the module-wide state of the library.
+//
+//     QV_InitCommonWnd();
+//     ...
+//     QV_ReleaseCommonWnd(); // before the library is unloaded
 #pragma once
 
 #include "QVCommonWndApi.h"
@@ -18,9 +22,9 @@ QVCOMMONWND_API void QV_ReleaseCommonWnd();
 // loaded, never changes afterwards; read only for hosts.
 extern QVCOMMONWND_API HINSTANCE g_hCommonWndInst;
 
-// Two windows kept between uses, null at load. Whoever fills a slot hands the object over: it must come from
-// `new` and is deleted by QV_ReleaseCommonWnd, with its window if that still exists. A slot that is emptied
-// by hand goes back to its filler. User-interface thread.
+// Two windows that a host may keep between uses; null at load, and the library fills neither. Whoever fills a
+// slot hands the object over: it must come from `new` and is deleted by QV_ReleaseCommonWnd, with its window
+// if that still exists. A slot that is emptied by hand goes back to its filler. User-interface thread.
 extern QVCOMMONWND_API _qv_commonctrl::CQVDirListCtrl* g_pDirListWnd;
 extern QVCOMMONWND_API CWnd* g_pCommonWnd;
 

@@ -12,9 +12,9 @@ namespace _qv_commonwnd {
 
 class CQVPathBrowseWnd;
 
-// The system's browse-for-folder dialog in skinned form. The tree shows folders and shortcuts to folders; choosing a
-// shortcut answers the folder it leads to. User-interface thread; COM is initialised for the length of DoModal on a
-// thread that has not done it.
+// The system's browse-for-folder dialog in skinned form. The tree shows folders and shortcuts to folders;
+// choosing a shortcut answers the folder it leads to. User-interface thread; COM is initialised for the
+// length of DoModal on a thread that has not done it.
 class QVCOMMONWND_API CQVPathDialog {
   public:
     // pParent: the owner, borrowed; null for the active window.
@@ -24,9 +24,9 @@ class QVCOMMONWND_API CQVPathDialog {
     CQVPathDialog& operator=(const CQVPathDialog& other);
     virtual ~CQVPathDialog();
 
-    // IDOK: m_strPath is the chosen folder; when that has no path (a virtual folder) m_strPath stays as it was, and
-    // for a shortcut that leads nowhere it is empty. IDCANCEL: cancelled, or the system could not show its dialog;
-    // m_strPath is empty then. May be called again.
+    // IDOK: m_strPath is the chosen folder; when that has no path (a virtual folder) m_strPath stays as it
+    // was, and for a shortcut that leads nowhere it is empty. IDCANCEL: cancelled, or the system could not
+    // show its dialog; m_strPath is empty then. May be called again.
     virtual INT_PTR DoModal();
 
     // A copy of m_strPath.

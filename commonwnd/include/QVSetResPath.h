@@ -10,10 +10,11 @@
 
 namespace _qv_commonwnd {
 
-// Both folders must exist before the dialog closes with OK; a message names each that does not. They are stored, without
-// trailing back-slashes, as profile texts "PathSet"/"ResPath" and "PathSet"/"MediaPath", and only when one has changed.
-// OK is enabled by the first change that is more than one of letter case. While QV_GetState(0) is non-zero, the resource
-// folder cannot be changed: its field and button are hidden (the folder must exist all the same).
+// Both folders must exist before the dialog closes with OK; a message names each that does not. They are
+// stored, without trailing back-slashes, as profile texts "PathSet"/"ResPath" and "PathSet"/"MediaPath", and
+// only when one has changed. OK is enabled by the first change that is more than one of letter case. While
+// QV_GetState(0) is non-zero, the resource folder cannot be changed: its field and button are hidden (the
+// folder must exist all the same). User-interface thread.
 class QVCOMMONWND_API CQVSetResPath : public _qv_commonctrl::CQVDialog {
     DECLARE_DYNAMIC(CQVSetResPath)
 
@@ -21,11 +22,12 @@ class QVCOMMONWND_API CQVSetResPath : public _qv_commonctrl::CQVDialog {
     explicit CQVSetResPath(CWnd* parent = nullptr);
     ~CQVSetResPath() override;
 
-    // IDOK: both folders exist and are stored. IDCANCEL: nothing was stored. -1: the dialog could not be made.
+    // IDOK: both folders exist and are stored. IDCANCEL: nothing was stored. -1: the dialog could not be
+    // created.
     INT_PTR DoModal() override;
 
-    // The folders shown when the dialog opens, and after IDOK the user's. An empty one is read from the profile first,
-    // also when the dialog is cancelled then.
+    // The folders shown when the dialog opens, and after IDOK the user's. An empty one is filled from the
+    // profile as the dialog opens, and stays so when it is cancelled.
     CString m_strResPath;
     CString m_strMediaPath;
 
@@ -41,12 +43,6 @@ class QVCOMMONWND_API CQVSetResPath : public _qv_commonctrl::CQVDialog {
 
   protected:
     DECLARE_MESSAGE_MAP()
-
-  private:
-    CString FieldText(int id) const;
-    void Browse(int id);
-    void EnableOkOnChange(int id, const CString& former);
-    void Store(const CString& resource, const CString& media);
 };
 
 } // namespace _qv_commonwnd

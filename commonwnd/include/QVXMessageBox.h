@@ -20,10 +20,10 @@ enum QVMessageAnswer : UINT {
 };
 
 // Asks and waits. `caption` is the title, `text` the question; both may be empty, and line breaks in the text
-// count. `type` and `parent` have no effect: the box always shows Yes, No and the tick box, and never has an
-// owner. Answers a QVMessageAnswer. When the user ticked the box at Yes or No, that answer is remembered for
-// the process: every later call, whatever its question, returns it at once and shows nothing, until
-// QV_MessageRest. User-interface thread.
+// count. `type` and `parent` have no effect: the box always shows Yes, No and the tick box, and its owner is
+// the host's main window (AfxGetMainWnd), if there is one. Answers a QVMessageAnswer. When the user ticked
+// the box at Yes or No, that answer is remembered for the process: every later call, whatever its question,
+// returns it at once and shows nothing, until QV_MessageRest. User-interface thread.
 QVCOMMONWND_API UINT QV_MessageBox(CString caption, CString text, UINT type, CWnd* parent);
 
 // Forgets the remembered answer, so that the next QV_MessageBox asks again. Answers 0.
@@ -53,7 +53,7 @@ class QVCOMMONWND_API CQVXMessageBox : public _qv_commonctrl::CQVDialog {
     void DoDataExchange(CDataExchange* dx) override;
 
     // The buttons. The first two remember their answer when the tick box is ticked; Cancel (the button itself
-    // is always hidden) forgets a remembered one.
+    // is always hidden) forgets a remembered one; the tick box does nothing until a button reads it.
     afx_msg void OnBnClickedYes();
     afx_msg void OnBnClickedNo();
     afx_msg void OnBnClickedCancel();
@@ -66,12 +66,6 @@ class QVCOMMONWND_API CQVXMessageBox : public _qv_commonctrl::CQVDialog {
 
   protected:
     DECLARE_MESSAGE_MAP()
-
-  private:
-    void AnchorControls();
-    void GrowForQuestion();
-    void PlaceParts(CSize question);
-    void Answer(QVMessageAnswer answer);
 };
 
 } // namespace _qv_commonwnd

@@ -1,4 +1,4 @@
-// How large the message box becomes for its question.
+// How large the message box becomes for its question and where its parts lie then; plain values, no window.
 #pragma once
 
 #include <afxwin.h>
@@ -22,16 +22,10 @@ struct MessageBoxParts {
     CRect yes; // the left-most button
 };
 
-// The parts once the box has its size. The template's places hold as long as the question fits there; a wider one is
-// widened to both sides, and for a higher one the tick box moves down beside the buttons and leaves its row to the
-// question. `noAskWidth` is what the tick box needs for its text; it is never made narrower than the template's.
+// The parts once the box has its size. The template's places hold as long as the question fits there; a wider
+// one is widened to both sides, and for a higher one the tick box moves down beside the buttons and leaves
+// its row to the question. `noAskWidth` is what the tick box needs for its text; it is never made narrower
+// than the template's.
 MessageBoxParts FitQuestion(MessageBoxParts parts, CSize client, CSize question, int noAskWidth, UINT dpi);
-
-// The size of a text in a control's own font, broken at its line breaks only; (0, 0) for an empty text or no
-// window.
-CSize MeasureQuestion(HWND control, const CString& text);
-
-// The work area of the monitor that a window is on, in screen pixels.
-CRect WorkAreaOf(HWND window);
 
 } // namespace _qv_commonwnd

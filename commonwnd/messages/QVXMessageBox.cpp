@@ -1,14 +1,13 @@
 #include "QVXMessageBox.h"
 
-#include "module/DictText.h"
 #include "MessageBoxRules.h"
-#include "QVModule.h"
+#include "module/DictText.h"
 #include "res/ResourceIds.h"
+#include "support/WindowText.h"
+#include "QVModule.h"
 
 #include <QVCommonClass.h>
 #include <QVSkin.h>
-
-#include <iterator>
 
 namespace _qv_commonwnd {
 
@@ -23,6 +22,60 @@ constexpr int kTickMarkPx = 26;
 
 // The answer given with the tick box ticked, for the rest of the run.
 UINT g_nMessageAnswer = kNoAnswer;
+
+// How the controls follow the box when it grows for its question.
+void AnchorControls(CQVXMessageBox& box) {
+    using namespace _qv_commonctrl;
+    box.SetAutoSize(TRUE, nullptr, 0);
+    box.SetChildWindow(box.GetDlgItem(IDC_MSGBOX_NOASK), QVANCHOR_BOTTOM_LEFT, QVANCHOR_KEEP_SIZE);
+    for (const int button : {IDC_MSGBOX_YES, IDC_MSGBOX_NO, IDC_MSGBOX_CANCEL})
+        box.SetChildWindow(box.GetDlgItem(button), QVANCHOR_BOTTOM_RIGHT, QVANCHOR_KEEP_SIZE);
+    box.SetChildWindow(box.GetDlgItem(IDC_MSGBOX_TEXT), QVANCHOR_FILL, QVANCHOR_RESIZE);
+}
+
+// The size of the work area of the monitor that a window is on.
+CSize WorkAreaOf(HWND window) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    if (::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info))
+        return CRect(info.rcWork).Size();
+    return CSize(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+}
+
+// The anchors have moved the parts already; this makes room where the text needs more than they left it.
+void PlaceParts(CWnd& box, CSize question, UINT dpi) {
+    CWnd* const text = box.GetDlgItem(IDC_MSGBOX_TEXT);
+    CWnd* const noAsk = box.GetDlgItem(IDC_MSGBOX_NOASK);
+    if (!text || !noAsk)
+        return;
+    const int noAskWidth = MeasureTextIn(noAsk->m_hWnd, WindowTextOf(noAsk), 0).cx +
+                           _qv_commonctrl::QV_ScaleForDpi(kTickMarkPx, dpi);
+    CRect client;
+    box.GetClientRect(&client);
+    const MessageBoxParts parts = FitQuestion(
+        {ChildRect(box, IDC_MSGBOX_TEXT), ChildRect(box, IDC_MSGBOX_NOASK), ChildRect(box, IDC_MSGBOX_YES)},
+        client.Size(), question, noAskWidth, dpi);
+    text->MoveWindow(parts.question);
+    noAsk->MoveWindow(parts.noAsk);
+}
+
+void GrowForQuestion(CQVXMessageBox& box) {
+    const UINT dpi = _qv_commonctrl::QV_GetWindowDpi(box.m_hWnd);
+    const CSize question = MeasureTextIn(::GetDlgItem(box.m_hWnd, IDC_MSGBOX_TEXT), box.m_strText, 0);
+    CRect window;
+    box.GetWindowRect(&window);
+    const CSize size = MessageBoxSize(question, window.Size(), WorkAreaOf(box.m_hWnd), dpi);
+    box.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+    PlaceParts(box, question, dpi);
+}
+
+// The answer that a button gives; kept for the rest of the run when the tick box is ticked.
+UINT Answered(const CWnd& box, QVMessageAnswer answer) {
+    const CWnd* const noAsk = box.GetDlgItem(IDC_MSGBOX_NOASK);
+    if (noAsk && ::SendMessageW(noAsk->GetSafeHwnd(), BM_GETCHECK, 0, 0) != 0)
+        g_nMessageAnswer = answer;
+    return answer;
+}
 
 } // namespace
 
@@ -69,60 +122,14 @@ BOOL CQVXMessageBox::OnInitDialog() {
         TemplateTranslation translation;
         CQVDialog::OnInitDialog();
     }
-    AnchorControls();
-    GrowForQuestion();
+    AnchorControls(*this);
+    GrowForQuestion(*this);
     SetWindowText(m_strCaption);
     SetDlgItemText(IDC_MSGBOX_TEXT, m_strText);
     m_nType = kTypeWhileShown;
     if (CWnd* cancel = GetDlgItem(IDC_MSGBOX_CANCEL))
         cancel->ShowWindow(SW_HIDE);
     return TRUE;
-}
-
-void CQVXMessageBox::AnchorControls() {
-    using namespace _qv_commonctrl;
-    SetAutoSize(TRUE, nullptr, 0);
-    SetChildWindow(GetDlgItem(IDC_MSGBOX_NOASK), QVANCHOR_BOTTOM_LEFT, QVANCHOR_KEEP_SIZE);
-    for (const int button : {IDC_MSGBOX_YES, IDC_MSGBOX_NO, IDC_MSGBOX_CANCEL})
-        SetChildWindow(GetDlgItem(button), QVANCHOR_BOTTOM_RIGHT, QVANCHOR_KEEP_SIZE);
-    SetChildWindow(GetDlgItem(IDC_MSGBOX_TEXT), QVANCHOR_FILL, QVANCHOR_RESIZE);
-}
-
-void CQVXMessageBox::GrowForQuestion() {
-    CWnd* question = GetDlgItem(IDC_MSGBOX_TEXT);
-    if (!question)
-        return;
-    const CSize text = MeasureQuestion(question->GetSafeHwnd(), m_strText);
-    CRect window;
-    GetWindowRect(&window);
-    const CSize size = MessageBoxSize(text, window.Size(), WorkAreaOf(GetSafeHwnd()).Size(),
-                                      _qv_commonctrl::QV_GetWindowDpi(GetSafeHwnd()));
-    SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-    PlaceParts(text);
-}
-
-// The anchors have moved the parts already; this makes room where the text needs more than they left it.
-void CQVXMessageBox::PlaceParts(CSize question) {
-    const HWND controls[] = {::GetDlgItem(m_hWnd, IDC_MSGBOX_TEXT), ::GetDlgItem(m_hWnd, IDC_MSGBOX_NOASK),
-                             ::GetDlgItem(m_hWnd, IDC_MSGBOX_YES)};
-    CRect places[std::size(controls)];
-    for (std::size_t i = 0; i < std::size(controls); ++i) {
-        if (!controls[i])
-            return;
-        ::GetWindowRect(controls[i], &places[i]);
-        ScreenToClient(&places[i]);
-    }
-    CRect client;
-    GetClientRect(&client);
-    CString noAskText;
-    GetDlgItemText(IDC_MSGBOX_NOASK, noAskText);
-    const UINT dpi = _qv_commonctrl::QV_GetWindowDpi(m_hWnd);
-    const int noAskWidth =
-        MeasureQuestion(controls[1], noAskText).cx + _qv_commonctrl::QV_ScaleForDpi(kTickMarkPx, dpi);
-    const MessageBoxParts parts =
-        FitQuestion({places[0], places[1], places[2]}, client.Size(), question, noAskWidth, dpi);
-    CWnd::FromHandle(controls[0])->MoveWindow(parts.question);
-    CWnd::FromHandle(controls[1])->MoveWindow(parts.noAsk);
 }
 
 BOOL CQVXMessageBox::PreTranslateMessage(MSG* msg) {
@@ -143,20 +150,14 @@ void CQVXMessageBox::DoDataExchange(CDataExchange* dx) {
     CQVDialog::DoDataExchange(dx);
 }
 
-void CQVXMessageBox::Answer(QVMessageAnswer answer) {
-    m_nResult = answer;
-    const CWnd* noAsk = GetDlgItem(IDC_MSGBOX_NOASK);
-    if (noAsk && ::SendMessageW(noAsk->GetSafeHwnd(), BM_GETCHECK, 0, 0) != 0)
-        g_nMessageAnswer = answer;
+void CQVXMessageBox::OnBnClickedYes() {
+    m_nResult = Answered(*this, QVMESSAGE_YES);
     CDialog::OnOK();
 }
 
-void CQVXMessageBox::OnBnClickedYes() {
-    Answer(QVMESSAGE_YES);
-}
-
 void CQVXMessageBox::OnBnClickedNo() {
-    Answer(QVMESSAGE_NO);
+    m_nResult = Answered(*this, QVMESSAGE_NO);
+    CDialog::OnOK();
 }
 
 void CQVXMessageBox::OnBnClickedCancel() {

@@ -1,8 +1,9 @@
-#include "QVProgressDlg.h"
+#include "Z5ProgressDlg.h"
 
 #include "ProgressRules.h"
 #include "SpinLock.h"
 #include "res/ResourceIds.h"
+#include "support/WindowText.h"
 
 #include <LWSupportAPI.h>
 #include <QVSkin.h>
@@ -37,7 +38,8 @@ template <class T> void Store(T& value, T now) {
     std::atomic_ref<T>(value).store(now, std::memory_order_relaxed);
 }
 
-// A worker that reports before the window is up stores its text at once: the window must not read it meanwhile.
+// A worker that reports before the window is up stores its text at once: the window must not read it
+// meanwhile.
 CString TakeText() {
     const std::lock_guard lock(s_textLock);
     if (std::exchange(s_bNewText, false))
@@ -48,6 +50,49 @@ CString TakeText() {
 void SetWindowThread(DWORD thread) {
     const std::lock_guard lock(s_textLock);
     s_windowThread = thread;
+}
+
+void LayOut(CZ5ProgressDlg& window) {
+    CRect client;
+    window.GetClientRect(&client);
+    const ProgressLayout layout = LayOutProgress(client, ChildRect(window, IDC_PROGRESS_TEXT),
+                                                 _qv_commonctrl::QV_GetWindowDpi(window.m_hWnd));
+    window.m_stText.MoveWindow(layout.message, TRUE);
+    window.m_ctrlProgress.MoveWindow(layout.bar, TRUE);
+    if (CWnd* cancel = window.GetDlgItem(IDC_PROGRESS_CANCEL))
+        cancel->MoveWindow(layout.cancel, TRUE);
+}
+
+void ShowPosition(CZ5ProgressDlg& window) {
+    window.m_ctrlProgress.SetPos(BarPosition(Load(CZ5ProgressDlg::m_nCurPos), window.m_nRange));
+}
+
+void Tick(CZ5ProgressDlg& window) {
+    const float before = Load(CZ5ProgressDlg::m_nCurPos);
+    ProgressState state = {before, window.m_fStep, Load(CZ5ProgressDlg::m_nNextPos), window.m_nRange,
+                           window.m_nSlowLimit};
+    AdvanceProgress(state);
+    // A report that came in between counts more than this step.
+    float expected = before;
+    std::atomic_ref<float>(CZ5ProgressDlg::m_nCurPos).compare_exchange_strong(expected, state.cur);
+    window.m_fStep = state.step;
+    window.m_nSlowLimit = state.slowLimit;
+    ShowPosition(window);
+    window.m_stText.SetWindowText(ProgressMessage(TakeText(), s_nDotCount));
+    s_nDotCount = NextDotCount(s_nDotCount);
+}
+
+// The user sees the bar arrive. A position below the range (or none at all) starts at its lower end.
+void FillBar(CZ5ProgressDlg& window) {
+    float cur = Load(CZ5ProgressDlg::m_nCurPos);
+    if (!(cur > 0.0f))
+        cur = 0.0f;
+    while (static_cast<float>(window.m_nRange) > cur) {
+        cur += 1.0f;
+        Store(CZ5ProgressDlg::m_nCurPos, cur);
+        ShowPosition(window);
+        window.m_ctrlProgress.UpdateWindow();
+    }
 }
 
 } // namespace
@@ -122,63 +167,20 @@ BOOL CZ5ProgressDlg::OnInitDialog() {
     m_ctrlProgress.SetPos(0);
     m_ctrlProgress.SetStep(kBarStep);
     SetTimer(kTickTimer, kTickMs, nullptr);
-    LayOut();
+    LayOut(*this);
     SetDlgItemText(IDC_PROGRESS_CANCEL, LWLoadString(L"PUBLIC_IDCANCEL"));
     return TRUE;
 }
 
-void CZ5ProgressDlg::LayOut() {
-    CRect client;
-    GetClientRect(&client);
-    CRect message;
-    m_stText.GetWindowRect(&message);
-    ScreenToClient(&message);
-    const ProgressLayout layout = LayOutProgress(client, message, _qv_commonctrl::QV_GetWindowDpi(m_hWnd));
-    m_stText.MoveWindow(layout.message, TRUE);
-    m_ctrlProgress.MoveWindow(layout.bar, TRUE);
-    if (CWnd* cancel = GetDlgItem(IDC_PROGRESS_CANCEL))
-        cancel->MoveWindow(layout.cancel, TRUE);
-}
-
 void CZ5ProgressDlg::OnTimer(UINT_PTR id) {
     if (id == kTickTimer)
-        Tick();
-    if (Load(m_bEndWnd))
-        RunToEnd();
-    else
+        Tick(*this);
+    if (Load(m_bEndWnd)) {
+        FillBar(*this);
+        CDialog::OnOK();
+    } else {
         CQVDialog::OnTimer(id);
-}
-
-void CZ5ProgressDlg::Tick() {
-    const float before = Load(m_nCurPos);
-    ProgressState state = {before, m_fStep, Load(m_nNextPos), m_nRange, m_nSlowLimit};
-    AdvanceProgress(state);
-    // A report that came in between counts more than this step.
-    float expected = before;
-    std::atomic_ref<float>(m_nCurPos).compare_exchange_strong(expected, state.cur);
-    m_fStep = state.step;
-    m_nSlowLimit = state.slowLimit;
-    ShowPosition();
-    m_stText.SetWindowText(ProgressMessage(TakeText(), s_nDotCount));
-    s_nDotCount = NextDotCount(s_nDotCount);
-}
-
-void CZ5ProgressDlg::ShowPosition() {
-    m_ctrlProgress.SetPos(BarPosition(Load(m_nCurPos), m_nRange));
-}
-
-// The user sees the bar arrive. A position below the range (or none at all) starts at its lower end.
-void CZ5ProgressDlg::RunToEnd() {
-    float cur = Load(m_nCurPos);
-    if (!(cur > 0.0f))
-        cur = 0.0f;
-    while (static_cast<float>(m_nRange) > cur) {
-        cur += 1.0f;
-        Store(m_nCurPos, cur);
-        ShowPosition();
-        m_ctrlProgress.UpdateWindow();
     }
-    CDialog::OnOK();
 }
 
 void CZ5ProgressDlg::OnClose() {

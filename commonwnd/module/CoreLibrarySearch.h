@@ -20,15 +20,14 @@ inline constexpr std::size_t kPathVariableMaxUnits = 4095;
 
 // Looks for the library: by the normal search order, then with the CoreDLL folder in Path. The folder is
 // looked for in `folder`, or, when that is null, in the folder that holds the executable's folder, and then
-// in each folder beside it. Path is extended only when CoreDLL was found and the first try failed. Answers
-// the module and sets `api` to what its entry answered; both are null when the library or its entry is
-// missing or the entry answers null (the library is freed again then). Shows nothing.
+// in each folder below that one. Path is extended only when CoreDLL was found and the first try failed.
+// Answers the module and sets `api` to what its entry answered; both are null when the library or its entry
+// is missing or the entry answers null (the library is freed again then). Shows nothing.
 IProcessServices::Module QV_LoadCoreLibrary(IProcessServices& services, const wchar_t* folder,
                                             const CoreLibraryDescription& description, void*& api);
 
 // The value that Path gets: `path` and ";", then the folder of CoreDLL and the x64 folders below it, each
-// followed by
-// ";" and only when the value does not hold it yet. `base` ends with a back slash.
+// followed by ";" and only when the value does not hold it yet. `base` ends with a back slash.
 std::wstring ExtendedPath(std::wstring path, const std::wstring& base,
                           const CoreLibraryDescription& description);
 

@@ -35,7 +35,8 @@ const wchar_t* QV_GetCommonDictText(const wchar_t* text);
 CString QV_GetCommonDictString(const wchar_t* text);
 
 // Gives the items of a view menu (icons, list, details, thumbnails) the dictionary's texts; items with other
-// texts and separators stay. Null does nothing.
+// texts and separators stay. Null does nothing. Part of the module's interface; no window of the library has
+// such a menu.
 void QV_TranslateViewMenu(_qv_commonctrl::CQVMenuEx* menu);
 
 // Passes the texts of a template through the table above while CQVDialog initialises a dialog: lives round

@@ -1,3 +1,4 @@
+// The colour-space library, kept for as long as the module is loaded.
 #pragma once
 
 #include <windows.h>

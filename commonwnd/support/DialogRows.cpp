@@ -31,7 +31,7 @@ bool IsLabel(const CWnd* wnd) {
     return dynamic_cast<const CQVStatic*>(wnd) != nullptr;
 }
 
-// The visible children, or those that are labels and those that are not.
+// The visible children that objects stand for.
 std::vector<Item> VisibleChildren(const CWnd& dialog) {
     std::vector<Item> items;
     for (CWnd* child = dialog.GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT)) {
@@ -57,12 +57,9 @@ constexpr int kMostRoomPx = 400; // that a window grows for one label, at 96 DPI
 
 // How much wider than its label a text is, pixels, up to what a window grows by; 0 and less: it fits.
 int MissingWidth(const Item& label) {
-    CClientDC dc(label.wnd);
-    CFont* const old = dc.SelectObject(label.wnd->GetFont());
-    CRect text;
-    dc.DrawText(TextOf(label.wnd).Left(kMostRoomPx), text, DT_CALCRECT | DT_SINGLELINE);
-    dc.SelectObject(old);
-    return std::min(text.Width() - label.rect.Width(), QV_ScalePx(label.wnd->m_hWnd, kMostRoomPx));
+    const CString text = WindowTextOf(label.wnd).Left(kMostRoomPx);
+    const int width = MeasureTextIn(label.wnd->m_hWnd, text, DT_SINGLELINE).cx;
+    return std::min(width - label.rect.Width(), QV_ScalePx(label.wnd->m_hWnd, kMostRoomPx));
 }
 
 bool ShareColumn(const CRect& one, const CRect& other) {

@@ -1,5 +1,5 @@
-// What the file dialog does with names, as plain functions over plain texts. Lengths are UTF-16 units; no
-// function has an upper limit of its own, and none fails.
+// What the file dialog and the shortcuts do with names, as plain functions over plain texts. Lengths are
+// UTF-16 units; no function has an upper limit of its own, and none fails.
 #pragma once
 
 #include <cstddef>
@@ -26,9 +26,9 @@ struct FilterChoice {
     const std::wstring* Pattern() const;
 };
 
-// The parts of a path; joined again they are the path. A drive is a letter position and a colon ("C:"); the
-// folder ends with its slash or back slash; the extension starts with the last dot of the name. Parts may
-// have any length.
+// The parts of a path; joined again they are the path. A drive is any unit and a colon ("C:"); the folder
+// ends with its slash or back slash; the extension starts with the last dot of the name. Parts may have any
+// length.
 struct PathParts {
     std::wstring_view drive;
     std::wstring_view folder;
@@ -43,8 +43,7 @@ std::optional<std::wstring_view> FirstAlternative(std::wstring_view pattern);
 
 // A save dialog's path: in lower case, with the first extension of the chosen pattern appended unless the
 // path's own extension stands anywhere in that pattern. Empty stays empty. A trailing dot is an extension of
-// its own
-// (".") and stands in every pattern with a dot; trailing spaces are part of the extension.
+// its own (".") and stands in every pattern with a dot; trailing spaces are part of the extension.
 std::wstring CheckedPathName(std::wstring_view path, const FilterChoice& choice);
 
 // A save dialog's extension: the first of the chosen pattern, in upper case, without dot ("AVI"; "*" of

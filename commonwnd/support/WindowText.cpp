@@ -1,14 +1,26 @@
 #include "WindowText.h"
 
+#include "Handles.h"
+
 #include <QVStatic.h>
 
 namespace _qv_commonwnd {
 
-CString TextOf(const CWnd* wnd) {
+CString WindowTextOf(const CWnd* wnd) {
     CString text;
     if (wnd && wnd->GetSafeHwnd())
         wnd->GetWindowText(text);
     return text;
+}
+
+CSize MeasureTextIn(HWND control, const CString& text, UINT format) {
+    if (!control || text.IsEmpty())
+        return CSize(0, 0);
+    const WindowDC dc(control);
+    const Selection font(dc.Get(), reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0)));
+    CRect rect;
+    ::DrawTextW(dc.Get(), text, text.GetLength(), &rect, format | DT_CALCRECT);
+    return rect.Size();
 }
 
 CRect ChildRect(const CWnd& parent, int id) {

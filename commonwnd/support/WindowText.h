@@ -6,7 +6,11 @@
 namespace _qv_commonwnd {
 
 // A window's whole text; empty for null or no window.
-CString TextOf(const CWnd* wnd);
+CString WindowTextOf(const CWnd* wnd);
+
+// What DrawText needs for a text in a control's own font with the given DT_* flags; (0, 0) for an empty text
+// or no window.
+CSize MeasureTextIn(HWND control, const CString& text, UINT format);
 
 // Where a child stands, client pixels of its parent; empty when there is no such child.
 CRect ChildRect(const CWnd& parent, int id);

@@ -85,7 +85,7 @@ void CQVGetIntDlg::OnBnClickedOk() {
     if (m_nType == QVGETINT_TIMECODE) {
         m_nValue = m_TimeCodeEdit.GetFrame();
     } else if (m_nType == QVGETINT_NUMBER) {
-        const long long value = LeadingInteger(TextOf(m_pEdit));
+        const long long value = LeadingInteger(WindowTextOf(m_pEdit));
         if (value < m_nMin || value > m_nMax)
             return;
         m_nValue = value;

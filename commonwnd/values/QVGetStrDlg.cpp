@@ -126,7 +126,7 @@ void CQVGetStrDlg::OnPaint() {
 }
 
 void CQVGetStrDlg::OnBnClickedOk() {
-    m_strText = TextOf(m_pEdit);
+    m_strText = WindowTextOf(m_pEdit);
     if (m_strText.IsEmpty() && !m_bAllowEmpty)
         return;
     if (m_strText.FindOneOf(m_strInvalidChar) >= 0) {

@@ -116,7 +116,7 @@ void CQVPicturePosDlg::OnEnChangeYpos() {
 void CQVPicturePosDlg::OnTyped(int id, LONG& coordinate) {
     if (!m_bInited)
         return;
-    coordinate = StrToIntW(TextOf(GetDlgItem(id)));
+    coordinate = StrToIntW(WindowTextOf(GetDlgItem(id)));
     MoveTracker();
     GetDefSize(m_ptPos, 0);
     TellHost();
@@ -130,8 +130,8 @@ void CQVPicturePosDlg::OnBnClickedDef() {
 }
 
 void CQVPicturePosDlg::OnBnClickedOk() {
-    m_ptPos.x = StrToIntW(TextOf(GetDlgItem(IDC_PICTURE_X)));
-    m_ptPos.y = StrToIntW(TextOf(GetDlgItem(IDC_PICTURE_Y)));
+    m_ptPos.x = StrToIntW(WindowTextOf(GetDlgItem(IDC_PICTURE_X)));
+    m_ptPos.y = StrToIntW(WindowTextOf(GetDlgItem(IDC_PICTURE_Y)));
     GetDefSize(m_ptPos, 0);
     CQVDialog::OnOK();
 }

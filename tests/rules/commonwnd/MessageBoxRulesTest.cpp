@@ -1,5 +1,6 @@
 // How far the message box grows for its question.
 #include "messages/MessageBoxRules.h"
+#include "support/WindowText.h"
 
 #include <gtest/gtest.h>
 
@@ -83,8 +84,8 @@ TEST(Parts, TickBoxIsWidenedForItsText) {
 }
 
 TEST(Question, WithoutWindowOrTextHasNoSize) {
-    EXPECT_EQ(CSize(0, 0), MeasureQuestion(nullptr, L"text"));
-    EXPECT_EQ(CSize(0, 0), MeasureQuestion(GetDesktopWindow(), L""));
+    EXPECT_EQ(CSize(0, 0), MeasureTextIn(nullptr, L"text", 0));
+    EXPECT_EQ(CSize(0, 0), MeasureTextIn(GetDesktopWindow(), L"", 0));
 }
 
 } // namespace

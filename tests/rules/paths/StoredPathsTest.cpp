@@ -1,5 +1,5 @@
 // The remembered folders in the profile.
-#include "module/PathSettings.h"
+#include "module/StoredPaths.h"
 
 #include <QVCommonClass.h>
 
@@ -10,7 +10,7 @@ using namespace _qv_commonclass;
 
 namespace {
 
-class PathSettings : public testing::Test {
+class StoredPaths : public testing::Test {
   protected:
     void SetUp() override {
         ASSERT_TRUE(QV_SetProfileRoot(L"Software\\QVCommonWndTest"));
@@ -19,7 +19,7 @@ class PathSettings : public testing::Test {
     void TearDown() override { QV_WriteProfileString(L"PathSet", nullptr, nullptr); }
 };
 
-TEST_F(PathSettings, StandInTheSectionUnderTheirKeys) {
+TEST_F(StoredPaths, StandInTheSectionUnderTheirKeys) {
     StorePath(kResPathKey, L"D:\\Res");
     StorePath(kMediaPathKey, L"E:\\Media");
     StorePath(kFilePathKey, L"F:\\");
@@ -30,12 +30,12 @@ TEST_F(PathSettings, StandInTheSectionUnderTheirKeys) {
     EXPECT_STREQ(L"G:\\other\\", StoredPath(kResPathKey));
 }
 
-TEST_F(PathSettings, AreEmptyAtTheStart) {
+TEST_F(StoredPaths, AreEmptyAtTheStart) {
     for (const wchar_t* key : {kResPathKey, kMediaPathKey, kFilePathKey})
         EXPECT_TRUE(StoredPath(key).IsEmpty());
 }
 
-TEST_F(PathSettings, ComeBackAsTheyWereStored) {
+TEST_F(StoredPaths, ComeBackAsTheyWereStored) {
     const CString values[] = {
         L"C:\\",          L"D:\\Res\\",          L"  D:\\blank  ", L"\\\\server\\share\\媒体",
         L"D:\\\x1\r\n\t", CString(L'x', 32000),  L"D:\\\xD83C",    L"",
@@ -47,12 +47,12 @@ TEST_F(PathSettings, ComeBackAsTheyWereStored) {
     }
 }
 
-TEST_F(PathSettings, EmptyPathIsStored) {
+TEST_F(StoredPaths, EmptyPathIsStored) {
     StorePath(kFilePathKey, nullptr);
     EXPECT_STREQ(L"", QV_GetProfileString(L"PathSet", L"FilePath", L"none"));
 }
 
-TEST_F(PathSettings, NoKeyTouchesNothing) {
+TEST_F(StoredPaths, NoKeyTouchesNothing) {
     StorePath(kResPathKey, L"D:\\Res");
     StorePath(nullptr, L"D:\\x");
     StorePath(L"", L"D:\\x");
@@ -62,7 +62,7 @@ TEST_F(PathSettings, NoKeyTouchesNothing) {
 }
 
 // The file dialog's folder has the same names but for letter case, and is another one.
-TEST_F(PathSettings, NeverMeetTheItemOfTheSameName) {
+TEST_F(StoredPaths, NeverMeetTheItemOfTheSameName) {
     CZ5Regkey item;
     ASSERT_TRUE(item.OpenItem(L"pathset", TRUE));
     ASSERT_TRUE(item.SetValue(L"filepath", L"C:\\dialog"));

@@ -1,7 +1,7 @@
 // The library as an extension module of the framework: attach, detach, module-wide state.
 #include "QVModule.h"
 
-#include "PathSettings.h"
+#include "StoredPaths.h"
 #include "QVColorSpaceLib.h"
 
 #ifndef QV_STATIC_LINK

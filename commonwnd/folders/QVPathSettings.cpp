@@ -1,6 +1,6 @@
 #include "QVPathSettings.h"
 
-#include "PathSettings.h"
+#include "module/StoredPaths.h"
 #include "QVSetResPath.h"
 
 #include <shlwapi.h>

@@ -1,4 +1,4 @@
-#include "PathSettings.h"
+#include "StoredPaths.h"
 
 #include <QVCommonClass.h>
 

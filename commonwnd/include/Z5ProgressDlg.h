@@ -1,4 +1,4 @@
-// QVProgressDlg.h: a modal progress window that is driven through static members.
+// Z5ProgressDlg.h: a modal progress window that is driven through static members.
 //
 //     CZ5ProgressDlg::EndProgressWnd(0); // the window never clears it
 //     CZ5ProgressDlg::m_bExist = 0;      // cleared as it opens, but the work may ask sooner
@@ -20,35 +20,37 @@
 
 namespace _qv_commonwnd {
 
-// One window at a time. Between two reports the bar moves by itself, a fixed step every 100 ms; the message carries
-// 0 to 20 trailing dots in turn.
+// One window at a time. Between two reports the bar moves by itself, a fixed step every 100 ms; the message
+// carries 0 to 20 trailing dots in turn.
 //
-// Threads: ProgressWndDoModle runs on the user-interface thread. SetCurPos, SetTextShow, EndProgressWnd and Exist may
-// be called from any thread while the window runs; they are plain stores and loads, and the window shows what they
-// stored at its next tick. They never wait for the window.
+// Threads: ProgressWndDoModle runs on the user-interface thread. SetCurPos, SetTextShow, EndProgressWnd and
+// Exist may be called from any thread while the window runs; the window shows what they stored at its next
+// tick. SetCurPos, EndProgressWnd and Exist store and load single values; SetTextShow copies under a lock
+// that nobody holds longer than such a copy takes. None of them waits for the window.
 class QVCOMMONWND_API CZ5ProgressDlg : public _qv_commonctrl::CQVDialog {
     DECLARE_DYNAMIC(CZ5ProgressDlg)
 
   public:
-    // Shows the window and returns when it has closed. `title`: null leaves the title empty. `range`: upper end of the
-    // bar, 1 to 1000; anything else is 100 (the lower end is 0). `step`: what the bar moves by itself every 100 ms, in
-    // units of the range; 0, less and NaN: it moves by SetCurPos only. Clears what Exist answers.
-    // The window never clears EndProgressWnd: call EndProgressWnd(0) before showing a second one.
+    // Shows the window and returns when it has closed. `title`: null leaves the title empty. `range`: upper
+    // end of the bar, 1 to 1000; anything else is 100 (the lower end is 0). `step`: what the bar moves by
+    // itself every 100 ms, in units of the range; 0, less and NaN: it moves by SetCurPos only. Clears what
+    // Exist answers. The window never clears EndProgressWnd: call EndProgressWnd(0) before showing a second
+    // one.
     static void ProgressWndDoModle(wchar_t* title, int range, float step);
 
-    // Puts the bar at `cur` (units of the range; beyond its ends the bar stands at that end) and announces `next` as the
-    // position of the next report; a `next` that is not above `cur` announces nothing.
+    // Puts the bar at `cur` (units of the range; beyond its ends the bar stands at that end) and announces
+    // `next` as the position of the next report; a `next` that is not above `cur` announces nothing.
     static void SetCurPos(int cur, int next);
 
-    // The message above the bar, copied; null is ignored. From another thread than the window's the text is handed
-    // over and replaces an earlier one that was not shown yet.
+    // The message above the bar, copied; null is ignored. From another thread than the window's the text is
+    // handed over and replaces an earlier one that was not shown yet.
     static void SetTextShow(wchar_t* text);
 
     // Non-zero: at its next tick the window fills the bar and closes. 0 takes it back.
     static void EndProgressWnd(int end);
 
-    // 1 after the user has pressed the cancel button, else 0. The window stays until the host ends it. Keeps the
-    // answer until the next window opens: a host whose work starts before that sets m_bExist to 0 first.
+    // 1 after the user has pressed the cancel button, else 0. The window stays until the host ends it. Keeps
+    // the answer until the next window opens: a host whose work starts before that sets m_bExist to 0 first.
     static int Exist();
 
     static int m_bEndWnd;   // see EndProgressWnd; 0 at load
@@ -81,12 +83,6 @@ class QVCOMMONWND_API CZ5ProgressDlg : public _qv_commonctrl::CQVDialog {
 
   protected:
     DECLARE_MESSAGE_MAP()
-
-  private:
-    void LayOut();
-    void Tick();
-    void RunToEnd();
-    void ShowPosition();
 };
 
 } // namespace _qv_commonwnd
