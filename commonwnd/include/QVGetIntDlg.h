@@ -27,7 +27,8 @@ class QVCOMMONWND_API CQVGetIntDlg : public _qv_commonctrl::CQVDialog {
     explicit CQVGetIntDlg(CWnd* parent = nullptr);
     ~CQVGetIntDlg() override;
 
-    // IDOK, and m_nValue is the answer; IDCANCEL, and m_nValue is as it was; -1 when the dialog could not be made.
+    // IDOK, and m_nValue is the answer; IDCANCEL, and m_nValue is as it was; -1 when the dialog could not be
+    // made.
     INT_PTR DoModal() override;
 
     CString m_strTitle;            // caption; empty: the template's

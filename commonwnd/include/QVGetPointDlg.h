@@ -24,7 +24,8 @@ class QVCOMMONWND_API CQVGetPointDlg : public _qv_commonctrl::CQVDialog {
     // How frames are counted and labelled; call before DoModal. Without it: 25 frames a second.
     void SetFrameRate(_qv_commonctrl::TimecodeFrameRate rate);
 
-    // IDOK, and m_nFrame is the answer; IDCANCEL, and m_nFrame is as it was; -1 when the dialog could not be made.
+    // IDOK, and m_nFrame is the answer; IDCANCEL, and m_nFrame is as it was; -1 when the dialog could not be
+    // made.
     INT_PTR DoModal() override;
 
     long long m_nFrame = 0; // position in frames from 0: initial value and answer

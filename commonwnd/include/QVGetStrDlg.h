@@ -22,8 +22,8 @@ class QVCOMMONWND_API CQVGetStrDlg : public _qv_commonctrl::CQVDialog {
     explicit CQVGetStrDlg(CWnd* parent = nullptr);
     ~CQVGetStrDlg() override;
 
-    // IDOK, and m_strText is the answer; IDCANCEL; -1 when the dialog could not be made. m_strText is what was typed
-    // also after a refused OK and IDCANCEL: take it only on IDOK.
+    // IDOK, and m_strText is the answer; IDCANCEL; -1 when the dialog could not be made. m_strText is what
+    // was typed also after a refused OK and IDCANCEL: take it only on IDOK.
     INT_PTR DoModal() override;
     // The same in a resizable layout without prompt, at the template's size.
     INT_PTR DoModalWindow();

@@ -22,15 +22,15 @@ class QVCOMMONWND_API CQVPicturePosDlg : public _qv_commonctrl::CQVDialog {
     DECLARE_DYNAMIC(CQVPicturePosDlg)
 
   public:
-    // Called on the window's thread after every change of the position, with m_pPosChangeData and the dialog. It must
-    // not close the dialog and must not throw.
+    // Called on the window's thread after every change of the position, with m_pPosChangeData and the dialog.
+    // It must not close the dialog and must not throw.
     typedef void (*PosChangeCallback)(void* data, CQVPicturePosDlg* dialog);
 
     explicit CQVPicturePosDlg(CWnd* parent = nullptr);
     ~CQVPicturePosDlg() override;
 
-    // IDOK, and m_ptPos is the answer; IDCANCEL: m_ptPos is where the user left the picture, take it only on IDOK; -1
-    // when the dialog could not be made.
+    // IDOK, and m_ptPos is the answer; IDCANCEL: m_ptPos is where the user left the picture, take it only on
+    // IDOK; -1 when the dialog could not be made.
     INT_PTR DoModal() override;
 
     CPoint m_ptPos;         // the picture's top-left corner in the frame, pixels: initial value and answer

@@ -15,8 +15,8 @@ enum QVSafeColorAction : int {
 // Values of tag_QVSafeColor::nLumUnit and nChromaUnit.
 enum QVSafeColorUnit : int {
     QVSAFECOLOR_8BIT = 0, // 8-bit code values
-    QVSAFECOLOR_PERCENT =
-        1, // luminance: percent of the way from black (code 16) to white (235), ITU-R BT.601
+    // Luminance: percent of the way from black (code 16) to white (235), ITU-R BT.601.
+    QVSAFECOLOR_PERCENT = 1,
 };
 
 // The groups of IsDirty and ResetDirty.

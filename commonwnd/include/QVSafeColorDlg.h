@@ -15,8 +15,9 @@
 
 namespace _qv_commonwnd {
 
-// The record is edited live: take it only on IDOK. OK is enabled while the record differs from what it was when the
-// dialog opened. The refresh buttons are latched while their group is at its default, and set it back to it.
+// The record is edited live: take it only on IDOK. OK is enabled while the record differs from what it was
+// when the dialog opened. The refresh buttons are latched while their group is at its default, and set it
+// back to it.
 class QVCOMMONWND_API CQVSafeColorDlg : public _qv_commonctrl::CQVDialog {
     DECLARE_DYNAMIC(CQVSafeColorDlg)
 
@@ -24,7 +25,8 @@ class QVCOMMONWND_API CQVSafeColorDlg : public _qv_commonctrl::CQVDialog {
     explicit CQVSafeColorDlg(CWnd* parent = nullptr);
     ~CQVSafeColorDlg() override;
 
-    // The window that receives WM_COMMAND 26012 on a help request (message WM_USER + 22). Borrowed; null: none.
+    // The window that receives WM_COMMAND 26012 on a help request (message WM_USER + 22). Borrowed; null:
+    // none.
     void SetOPALMainWnd(CWnd* pWnd);
 
     tag_QVSafeColor m_SafeColor; // filled before DoModal, read after IDOK
@@ -48,28 +50,18 @@ class QVCOMMONWND_API CQVSafeColorDlg : public _qv_commonctrl::CQVDialog {
     void SetEditValue();
     // Enables OK while the record differs from what it was.
     void SetDirty();
+    // Does nothing; part of the published interface.
     void SetTabStop();
 
   protected:
     DECLARE_MESSAGE_MAP()
 
   private:
-    void ShowTexts();
-    void CreateEdits();
-    _qv_extractrl::CQVNumberEditEx* CreateEdit(int placeholder, UINT id);
     void TakeControls();
-    void FillUnits();
-    void Straighten();
-    void ShowAction();
-    void ReadAction();
-    void ShowDefaults();
-    void ReadLuminance(_qv_extractrl::CQVNumberEditEx* edit, double& code, double& percent);
-    bool InPercent() const { return m_SafeColor.nLumUnit != QVSAFECOLOR_8BIT; }
-    bool Ready() const { return m_pLumLow && m_pLumHigh && m_pChromaHigh; }
 
     _qv_extractrl::CQVNumberEditEx* m_pLumLow = nullptr;     // owned while the window lives
     _qv_extractrl::CQVNumberEditEx* m_pLumHigh = nullptr;    // owned
-    _qv_extractrl::CQVNumberEditEx* m_pChromaHigh = nullptr; // owned
+    _qv_extractrl::CQVNumberEditEx* m_pChromaHigh = nullptr; // owned; the last to come and the first to go
     CWnd* m_pLumUnit = nullptr;                              // not owned, nor are those that follow
     CWnd* m_pChromaUnit = nullptr;
     CWnd* m_pIgnore = nullptr;

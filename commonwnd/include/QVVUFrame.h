@@ -1,7 +1,8 @@
 // QVVUFrame.h: a window of audio level meters: inputs, tracks and outputs.
 //
 //     CQVVUFrame meters;
-//     meters.CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), L"Meters", WS_OVERLAPPEDWINDOW, CRect(100, 100, 800, 460), this, 0);
+//     meters.CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), L"Meters", WS_OVERLAPPEDWINDOW,
+//                     CRect(100, 100, 800, 460), this, 0);
 //     meters.ShowWindow(SW_SHOW);
 //     int in[2] = {62, 58}, track[8] = {}, out[2] = {70, 71}; // percent of the scale: QVX_DBToPos
 //     meters.SetUVValue(2, in, 8, track, 2, out, 0, 0);       // with each measurement
@@ -26,16 +27,18 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
     CQVVUFrame();
     ~CQVVUFrame() override;
 
-    // Shows levels: `nIn` inputs from `pIn`, `nTrack` tracks from `pTrack`, `nOut` outputs from `pOut`, each 0 (bottom) to
-    // 100 (top of the scale), bounded. Other counts than before change the face first; more than 4, 95 and 8, or
-    // negative ones, leave the old face, and only levels that have a meter are shown. A null array leaves its group as
-    // it is. The last two arguments have no effect. Unchanged levels cost no painting.
+    // Shows levels: `nIn` inputs from `pIn`, `nTrack` tracks from `pTrack`, `nOut` outputs from `pOut`, each
+    // 0 (bottom) to 100 (top of the scale), bounded. Other counts than before change the face first; more
+    // than 4, 95 and 8, or negative ones, leave the old face, and only levels that have a meter are shown. A
+    // null array leaves its group as it is. The last two arguments have no effect. Unchanged levels cost no
+    // painting.
     void SetUVValue(int nIn, int* pIn, int nTrack, int* pTrack, int nOut, int* pOut, int, int);
 
     // All meters of the shown groups to 0.
     void ClearUVValue();
 
-    // TRUE: closing destroys the window; FALSE (the default): it is only hidden, and the host can show it again.
+    // TRUE: closing destroys the window; FALSE (the default): it is only hidden, and the host can show it
+    // again.
     void SetAutoClose(BOOL bAutoClose);
 
     void OnSkinChange(UINT reason, HWND wnd) override;
@@ -58,17 +61,9 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
     static constexpr int kSlots = 108; // 0-3 inputs, 4-11 outputs, 12 and up tracks
 
     void SetUVFace(long nIn, long nTrack, long nOut);
-    void CreateSlot(int slot, UINT buttonId);
-    void ShowSlot(int slot, bool show);
-    void PlaceGroup(const struct VUGroup& group, int firstSlot);
     void ResizeToFace();
-    void ShowLevels(int nIn, const int* pIn, int nTrack, const int* pTrack, int nOut, const int* pOut);
     void PaintLine(CDC* pDC, int* pMarks, int nMarks, CRect rect);
-    void PaintPanels(CDC& dc, const CRect& client);
-    void PaintLabels(CDC& dc);
-    void PaintTitles(CDC& dc);
     void DeleteSlots();
-    UINT Dpi() const;
 
     _qv_extractrl::CQVVUTableCtrl* m_pMeter[kSlots] = {};
     _qv_commonctrl::CQVButton* m_pButton[kSlots] = {};

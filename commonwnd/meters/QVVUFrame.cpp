@@ -1,11 +1,16 @@
 #include "QVVUFrame.h"
 
-#include "VUFaceLayout.h"
+#include "VUFacePainter.h"
+#include "support/Handles.h"
 
+#include <QVMemoDC.h>
 #include <QVSkin.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <tuple>
+#include <utility>
 
 using namespace _qv_commonctrl;
 using _qv_extractrl::CQVVUTableCtrl;
@@ -26,10 +31,74 @@ constexpr wchar_t kButtonText[] = L"•";
 constexpr DWORD kButtonStyle = WS_CHILD | WS_DISABLED | BS_PUSHLIKE | BS_AUTOCHECKBOX;
 
 // Pixels at 96 DPI.
-constexpr int kMeterBottomPx = 20;
 constexpr int kLowestHeightPx = 298;
 constexpr int kLargestHeightPx = 798;
 constexpr int kButtonSizePx = 15;
+
+UINT DpiOf(const CWnd& wnd) {
+    return QV_GetWindowDpi(wnd.m_hWnd);
+}
+
+// A meter and the button above it, in a slot of the frame. Both are there or neither is.
+struct Channel {
+    CQVVUTableCtrl*& meter;
+    CQVButton*& button;
+
+    void Create(CWnd& frame, UINT buttonId) {
+        meter = new CQVVUTableCtrl;
+        meter->Create(WS_CHILD, CRect(0, 0, 0, 0), &frame, 0);
+        button = new CQVButton;
+        const int size = QV_ScaleForDpi(kButtonSizePx, DpiOf(frame));
+        button->Create(kButtonText, kButtonStyle, CRect(0, 0, size, size), &frame, buttonId);
+    }
+
+    void Place(const CRect& meterRect, const CPoint& buttonCorner) {
+        if (!meter)
+            return;
+        meter->MoveWindow(meterRect);
+        button->SetWindowPos(nullptr, buttonCorner.x, buttonCorner.y, 0, 0,
+                             SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+
+    void Show(bool show) {
+        if (!meter)
+            return;
+        meter->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
+        button->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
+    }
+
+    void Delete() {
+        if (!meter)
+            return;
+        meter->DestroyWindow();
+        button->DestroyWindow();
+        delete std::exchange(meter, nullptr);
+        delete std::exchange(button, nullptr);
+    }
+};
+
+// What one group is to show.
+struct GroupLevels {
+    int firstSlot;
+    int count;
+    const int* levels; // null: left as they are
+};
+
+// All meters in one round, which paints many of them for little more than one.
+template <size_t SLOTS>
+void ShowLevels(CQVVUTableCtrl* const (&slots)[SLOTS], const std::array<GroupLevels, 3>& groups) {
+    std::array<CQVVUTableCtrl*, std::tuple_size_v<std::decay_t<decltype(groups)>> * SLOTS> meters;
+    std::array<int, std::tuple_size_v<decltype(meters)>> levels;
+    int meterCount = 0;
+    for (const GroupLevels& group : groups) {
+        const int most = static_cast<int>(SLOTS) - group.firstSlot;
+        const int count = group.levels ? std::clamp(group.count, 0, most) : 0;
+        std::copy_n(slots + group.firstSlot, count, meters.data() + meterCount);
+        std::copy_n(group.levels, count, levels.data() + meterCount);
+        meterCount += count;
+    }
+    CQVVUTableCtrl::SetPos(meters.data(), levels.data(), meterCount);
+}
 
 } // namespace
 
@@ -60,10 +129,6 @@ CQVVUFrame::~CQVVUFrame() {
     delete m_pLayout;
 }
 
-UINT CQVVUFrame::Dpi() const {
-    return QV_GetWindowDpi(m_hWnd);
-}
-
 LRESULT CQVVUFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = 0;
     if (HandleFrameMessage(message, wParam, lParam, result))
@@ -78,74 +143,50 @@ int CQVVUFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     ModifyStyle(0, WS_CLIPCHILDREN);
     AttachFrame(this);
     for (int slot = 0; slot < kFirstTrack; ++slot)
-        CreateSlot(slot, kFirstButtonId + static_cast<UINT>(slot));
+        Channel{m_pMeter[slot], m_pButton[slot]}.Create(*this, kFirstButtonId + static_cast<UINT>(slot));
     SetUVFace(0, kInitialTracks, kMostOutputs);
     AttachSkin(this);
     return 0;
 }
 
-void CQVVUFrame::CreateSlot(int slot, UINT buttonId) {
-    auto* meter = new CQVVUTableCtrl;
-    meter->Create(WS_CHILD, CRect(0, 0, 0, 0), this, 0);
-    m_pMeter[slot] = meter;
-    auto* button = new CQVButton;
-    const int size = QV_ScaleForDpi(kButtonSizePx, Dpi());
-    button->Create(kButtonText, kButtonStyle, CRect(0, 0, size, size), this, buttonId);
-    m_pButton[slot] = button;
-}
-
-void CQVVUFrame::ShowSlot(int slot, bool show) {
-    if (slot < 0 || slot >= kSlots || !m_pMeter[slot])
-        return;
-    m_pMeter[slot]->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
-    m_pButton[slot]->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
-}
-
 void CQVVUFrame::SetUVFace(long nIn, long nTrack, long nOut) {
     if (!m_hWnd || !IsFacePossible(nIn, nTrack, nOut))
         return;
+    const auto channel = [this](int slot) { return Channel{m_pMeter[slot], m_pButton[slot]}; };
+    const auto place = [&channel](const VUGroup& group, int firstSlot) {
+        for (int i = 0; i < group.count; ++i) {
+            const CSize offset(group.pitch * i, 0);
+            channel(firstSlot + i).Place(group.firstMeter + offset, group.firstButton + offset);
+            channel(firstSlot + i).Show(true);
+        }
+    };
     for (; m_nTrackCreated < nTrack; ++m_nTrackCreated)
-        CreateSlot(kFirstTrack + m_nTrackCreated, kFirstButtonId + static_cast<UINT>(m_nTrackCreated));
+        channel(kFirstTrack + m_nTrackCreated)
+            .Create(*this, kFirstButtonId + static_cast<UINT>(m_nTrackCreated));
     for (int slot = 0; slot < m_nTrackCount + kFirstTrack; ++slot)
-        ShowSlot(slot, false);
+        channel(slot).Show(false);
     m_nInCount = static_cast<int>(nIn);
     m_nTrackCount = static_cast<int>(nTrack);
     m_nOutCount = static_cast<int>(nOut);
-    *m_pLayout = CVUFaceLayout(m_nInCount, m_nTrackCount, m_nOutCount, Dpi());
-    PlaceGroup(m_pLayout->input, 0);
-    PlaceGroup(m_pLayout->track, kFirstTrack);
-    PlaceGroup(m_pLayout->output, kFirstOutput);
+    *m_pLayout = CVUFaceLayout(m_nInCount, m_nTrackCount, m_nOutCount, DpiOf(*this));
+    place(m_pLayout->input, 0);
+    place(m_pLayout->track, kFirstTrack);
+    place(m_pLayout->output, kFirstOutput);
     for (int slot = m_nInCount; slot < kFirstOutput; ++slot)
-        ShowSlot(slot, false);
+        channel(slot).Show(false);
     // With fewer than eight outputs this reaches into the first tracks; hosts rely on the faces being so.
     for (int slot = m_nOutCount + kSlotsBehindOutputs; slot <= kLastHiddenByOutputs; ++slot)
-        ShowSlot(slot, false);
+        channel(slot).Show(false);
     m_nWidth = m_pLayout->width;
     ResizeToFace();
     Invalidate(FALSE);
-}
-
-void CQVVUFrame::PlaceGroup(const VUGroup& group, int firstSlot) {
-    CRect client;
-    GetClientRect(&client);
-    for (int i = 0; i < group.count; ++i) {
-        const int slot = firstSlot + i;
-        if (!m_pMeter[slot])
-            continue;
-        CRect meter = group.firstMeter;
-        meter.OffsetRect(group.pitch * i, 0);
-        m_pMeter[slot]->MoveWindow(meter);
-        m_pButton[slot]->SetWindowPos(nullptr, group.firstButton.x + group.pitch * i, group.firstButton.y, 0,
-                                      0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        ShowSlot(slot, true);
-    }
-    OnSize(SIZE_RESTORED, client.Width(), client.Height());
 }
 
 // The width follows the face; the client area keeps its height.
 void CQVVUFrame::ResizeToFace() {
     CRect client;
     GetClientRect(&client);
+    OnSize(SIZE_RESTORED, client.Width(), client.Height());
     const CRect edges = GetFrameEdges();
     SetWindowPos(nullptr, 0, 0, m_nWidth + edges.left + edges.right,
                  client.Height() + edges.top + edges.bottom, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -154,41 +195,51 @@ void CQVVUFrame::ResizeToFace() {
 void CQVVUFrame::SetUVValue(int nIn, int* pIn, int nTrack, int* pTrack, int nOut, int* pOut, int, int) {
     if (nIn != m_nInCount || nTrack != m_nTrackCount || nOut != m_nOutCount)
         SetUVFace(nIn, nTrack, nOut);
-    ShowLevels(nIn, pIn, nTrack, pTrack, nOut, pOut);
-}
-
-// All meters in one round, which paints many of them for little more than one.
-void CQVVUFrame::ShowLevels(int nIn, const int* pIn, int nTrack, const int* pTrack, int nOut,
-                            const int* pOut) {
-    struct Group {
-        int firstSlot;
-        int count;
-        const int* levels; // null: left as they are
-    };
-    const Group groups[] = {{0, nIn, pIn}, {kFirstOutput, nOut, pOut}, {kFirstTrack, nTrack, pTrack}};
-    CQVVUTableCtrl* meters[std::size(groups) * kSlots];
-    int levels[std::size(groups) * kSlots];
-    int meterCount = 0;
-    for (const Group& group : groups) {
-        const int count = group.levels ? std::clamp(group.count, 0, kSlots - group.firstSlot) : 0;
-        std::copy_n(m_pMeter + group.firstSlot, count, meters + meterCount);
-        std::copy_n(group.levels, count, levels + meterCount);
-        meterCount += count;
-    }
-    CQVVUTableCtrl::SetPos(meters, levels, meterCount);
+    ShowLevels(m_pMeter, {{{0, nIn, pIn}, {kFirstOutput, nOut, pOut}, {kFirstTrack, nTrack, pTrack}}});
 }
 
 void CQVVUFrame::ClearUVValue() {
     const int none[kSlots] = {};
-    ShowLevels(m_nInCount, none, m_nTrackCount, none, m_nOutCount, none);
+    ShowLevels(
+        m_pMeter,
+        {{{0, m_nInCount, none}, {kFirstOutput, m_nOutCount, none}, {kFirstTrack, m_nTrackCount, none}}});
 }
 
 void CQVVUFrame::SetAutoClose(BOOL bAutoClose) {
     m_bAutoClose = bAutoClose;
 }
 
+void CQVVUFrame::OnPaint() {
+    int marksDb[] = {0, -3, -6, -12, -20, -30, -40, -60, -120};
+    CQVPaintMemoDC dc(this, QVCLR_PANEL);
+    const CRect& client = dc.Client();
+    const UINT dpi = DpiOf(*this);
+    PaintVUFace(dc, client, *m_pLayout, dpi);
+    const Selection font(dc.GetSafeHdc(), QV_GetSysFont(QVFONT_TITLE, dpi)->GetSafeHandle());
+    for (const VUGroup* group : {&m_pLayout->input, &m_pLayout->track, &m_pLayout->output}) {
+        if (group->count > 0)
+            PaintLine(&dc, marksDb, static_cast<int>(std::size(marksDb)),
+                      VUScale(*group, client.Height(), dpi));
+    }
+}
+
+void CQVVUFrame::PaintLine(CDC* pDC, int* pMarks, int nMarks, CRect rect) {
+    PaintVUScale(*pDC, pMarks, nMarks, rect, {m_pTickPen, m_pShadowPen}, DpiOf(*this));
+}
+
+BOOL CQVVUFrame::OnEraseBkgnd(CDC*) {
+    return TRUE; // every pixel is painted by OnPaint
+}
+
+// The meters' buttons stand on the raised panels.
+HBRUSH CQVVUFrame::OnCtlColor(CDC* pDC, CWnd*, UINT) {
+    pDC->SetBkMode(TRANSPARENT);
+    pDC->SetTextColor(QV_GetSysColor(QVCLR_TEXT));
+    return m_brPanel;
+}
+
 void CQVVUFrame::OnSize(UINT nType, int cx, int cy) {
-    const int bottom = cy - QV_ScaleForDpi(kMeterBottomPx, Dpi());
+    const int bottom = VUFoot(cy, DpiOf(*this));
     for (CQVVUTableCtrl* meter : m_pMeter) {
         if (!meter)
             continue;
@@ -203,7 +254,7 @@ void CQVVUFrame::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CQVVUFrame::OnGetMinMaxInfo(MINMAXINFO* pInfo) {
-    const UINT dpi = Dpi();
+    const UINT dpi = DpiOf(*this);
     pInfo->ptMinTrackSize = CPoint(m_nWidth, QV_ScaleForDpi(kLowestHeightPx, dpi));
     pInfo->ptMaxTrackSize = CPoint(m_nWidth, QV_ScaleForDpi(kLargestHeightPx, dpi));
 }
@@ -234,17 +285,8 @@ void CQVVUFrame::OnDestroy() {
 }
 
 void CQVVUFrame::DeleteSlots() {
-    auto remove = [](auto*& control) {
-        if (!control)
-            return;
-        control->DestroyWindow();
-        delete control;
-        control = nullptr;
-    };
-    for (int slot = 0; slot < kSlots; ++slot) {
-        remove(m_pMeter[slot]);
-        remove(m_pButton[slot]);
-    }
+    for (int slot = 0; slot < kSlots; ++slot)
+        Channel{m_pMeter[slot], m_pButton[slot]}.Delete();
 }
 
 void CQVVUFrame::OnSkinChange(UINT reason, HWND wnd) {

@@ -1,15 +1,13 @@
 #include "VUFaceLayout.h"
 
+#include "QVVUFrame.h"
+
 #include <QVDBScale.h>
 #include <QVSkin.h>
 
 namespace _qv_commonwnd {
 
 namespace {
-
-constexpr long kMostInputs = 4;
-constexpr long kMostTracks = 95;
-constexpr long kMostOutputs = 8;
 
 // Pixels at 96 DPI.
 constexpr int kFirstGroupLeftPx = 40;
@@ -28,6 +26,8 @@ constexpr int kLabelTopPx = 40;
 constexpr int kPanelTopPx = 36;
 constexpr int kPanelExtraWidthPx = 35;
 constexpr int kPanelLostHeightPx = 46;
+constexpr int kScaleWidthPx = 30;
+constexpr int kFootPx = 20; // from the foot of the client area up to that of meters and scales
 
 } // namespace
 
@@ -59,14 +59,23 @@ int CVUFaceLayout::Place(VUGroup& group, int count, int x, UINT dpi) {
 }
 
 bool IsFacePossible(long inputs, long tracks, long outputs) {
-    return inputs >= 0 && inputs <= kMostInputs && tracks >= 0 && tracks <= kMostTracks && outputs >= 0 &&
-           outputs <= kMostOutputs;
+    return inputs >= 0 && inputs <= CQVVUFrame::kMostInputs && tracks >= 0 &&
+           tracks <= CQVVUFrame::kMostTracks && outputs >= 0 && outputs <= CQVVUFrame::kMostOutputs;
 }
 
 CRect VUPanel(int left, int count, int clientHeight, UINT dpi) {
     auto px = [dpi](int value) { return _qv_commonctrl::QV_ScaleForDpi(value, dpi); };
     return CRect(CPoint(left, px(kPanelTopPx)),
                  CSize(px(kPitchPx) * count + px(kPanelExtraWidthPx), clientHeight - px(kPanelLostHeightPx)));
+}
+
+int VUFoot(int clientHeight, UINT dpi) {
+    return clientHeight - _qv_commonctrl::QV_ScaleForDpi(kFootPx, dpi);
+}
+
+CRect VUScale(const VUGroup& group, int clientHeight, UINT dpi) {
+    const int right = group.scale.x + _qv_commonctrl::QV_ScaleForDpi(kScaleWidthPx, dpi);
+    return CRect(group.scale.x, group.scale.y, right, VUFoot(clientHeight, dpi));
 }
 
 std::vector<VUScaleMark> VUScaleMarks(const int* marksDb, int count, int top, int bottom, int labelHeight) {

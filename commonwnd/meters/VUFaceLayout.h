@@ -33,11 +33,18 @@ class CVUFaceLayout {
     int Place(VUGroup& group, int count, int x, UINT dpi);
 };
 
-// Whether a face of these counts can be shown: 0 to 4 inputs, 0 to 95 tracks, 0 to 8 outputs.
+// Whether a face of these counts can be shown: none negative, none above the most of CQVVUFrame.
 bool IsFacePossible(long inputs, long tracks, long outputs);
 
-// The rounded panel of a group of `count` meters whose left edge is at `left`, in a client area of this height.
+// The rounded panel of a group of `count` meters whose left edge is at `left`, in a client area of this
+// height.
 CRect VUPanel(int left, int count, int clientHeight, UINT dpi);
+
+// Where meters and scales end in a client area of this height.
+int VUFoot(int clientHeight, UINT dpi);
+
+// The dB scale of a group in a client area of this height.
+CRect VUScale(const VUGroup& group, int clientHeight, UINT dpi);
 
 // One mark of a dB scale.
 struct VUScaleMark {
@@ -45,8 +52,8 @@ struct VUScaleMark {
     bool labelled; // false: its label would run into that of a lower mark
 };
 
-// The marks (dB, from the top of the scale to its foot) of a scale that fills `top` to `bottom`. The foot is always
-// labelled; the others are as long as `labelHeight` pixels are free below their tick.
+// The marks (dB, from the top of the scale to its foot) of a scale that fills `top` to `bottom`. The foot is
+// always labelled; the others are as long as `labelHeight` pixels are free below their tick.
 std::vector<VUScaleMark> VUScaleMarks(const int* marksDb, int count, int top, int bottom, int labelHeight);
 
 } // namespace _qv_commonwnd

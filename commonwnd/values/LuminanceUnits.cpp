@@ -36,4 +36,9 @@ int RoundCode(double code) {
     return static_cast<int>(code >= 0.0 ? code + 0.5 : code - 0.5);
 }
 
+void TakeLuminance(double position, bool inPercent, double& code, double& percent) {
+    code = inPercent ? PercentToCode(position) : position;
+    percent = inPercent ? position : CodeToPercent(position);
+}
+
 } // namespace _qv_commonwnd

@@ -1,4 +1,5 @@
-// Luminance as 8-bit video code and as percent of the way from black (code 16) to white (code 235), ITU-R BT.601.
+// Luminance as 8-bit video code and as percent of the way from black (code 16) to white (code 235), ITU-R
+// BT.601.
 #pragma once
 
 namespace _qv_commonwnd {
@@ -17,5 +18,8 @@ double CodeToPercent(double code);
 
 // The nearest whole code, halves away from zero; bounded to what an int holds (NaN: 0).
 int RoundCode(double code);
+
+// Takes the position of a limit's field, which counts in percent or in codes, into both figures of the limit.
+void TakeLuminance(double position, bool inPercent, double& code, double& percent);
 
 } // namespace _qv_commonwnd

@@ -1,9 +1,12 @@
 #include "QVSafeColorDlg.h"
 
 #include "LuminanceUnits.h"
+#include "SafeColorControls.h"
 #include "res/ResourceIds.h"
 
 #include <QVSkin.h>
+
+#include <initializer_list>
 
 using namespace _qv_commonctrl;
 using _qv_extractrl::CQVNumberEditEx;
@@ -16,6 +19,27 @@ constexpr UINT kHelpRequest = WM_USER + 22;
 constexpr WPARAM kHelpCommand = 26012; // the host opens its help for this dialog
 constexpr double kLowestChroma = 0.0;
 constexpr double kHighestChroma = 115.0;
+
+bool InPercent(const tag_QVSafeColor& color) {
+    return color.nLumUnit != QVSAFECOLOR_8BIT;
+}
+
+void ShowLuminance(CQVNumberEditEx& edit, bool inPercent, double code, double percent) {
+    edit.SetDecimals(inPercent ? 1 : 0);
+    edit.SetRange(inPercent ? kLowestPercent : kLowestCode, inPercent ? kHighestPercent : kHighestCode);
+    edit.SetPos(inPercent ? percent : RoundCode(code));
+}
+
+// The action whose radio button is checked; `before` when none is.
+int CheckedAction(const std::initializer_list<CWnd*>& radios, int before) {
+    int action = 0;
+    for (CWnd* radio : radios) {
+        if (radio && radio->SendMessage(BM_GETCHECK) != BST_UNCHECKED)
+            return action;
+        ++action;
+    }
+    return before;
+}
 
 } // namespace
 
@@ -50,36 +74,61 @@ void CQVSafeColorDlg::SetOPALMainWnd(CWnd* pWnd) {
     m_pOPALMainWnd = pWnd;
 }
 
-// Reads one of the luminance edits into the record and its percentage.
-void CQVSafeColorDlg::ReadLuminance(CQVNumberEditEx* edit, double& code, double& percent) {
-    if (InPercent()) {
-        percent = edit->GetPos();
-        code = PercentToCode(percent);
-    } else {
-        code = edit->GetPos();
-        percent = CodeToPercent(code);
-    }
+BOOL CQVSafeColorDlg::OnInitDialog() {
+    CQVDialog::OnInitDialog();
+    ShowSafeColorTexts(*this);
+    m_dLumLowPercent = CodeToPercent(m_SafeColor.dLumLow);
+    m_dLumHighPercent = CodeToPercent(m_SafeColor.dLumHigh);
+    m_pLumLow = CreateNumberEdit(*this, IDC_SAFECOLOR_LUMLOW_PLACE, IDC_SAFECOLOR_LUMLOW);
+    m_pLumHigh = CreateNumberEdit(*this, IDC_SAFECOLOR_LUMHIGH_PLACE, IDC_SAFECOLOR_LUMHIGH);
+    m_pChromaHigh = CreateNumberEdit(*this, IDC_SAFECOLOR_CHROMAHIGH_PLACE, IDC_SAFECOLOR_CHROMAHIGH);
+    TakeControls();
+    FillUnits(*m_pLumUnit, m_SafeColor.nLumUnit);
+    FillUnits(*m_pChromaUnit, m_SafeColor.nChromaUnit);
+    m_pChromaUnit->EnableWindow(FALSE);
+    StraightenSafeColor(*this);
+    SetEditValue();
+    int action = 0;
+    for (CWnd* radio : {m_pLimit, m_pWarning, m_pIgnore})
+        radio->SendMessage(BM_SETCHECK, action++ == m_SafeColor.nAction ? BST_CHECKED : BST_UNCHECKED);
+    m_pLumRefresh->SetCheck(m_SafeColor.IsDirty(QVSAFECOLOR_LUMINANCE));
+    m_pChromaRefresh->SetCheck(m_SafeColor.IsDirty(QVSAFECOLOR_CHROMINANCE));
+    for (CQVButton* refresh : {m_pLumRefresh, m_pChromaRefresh})
+        refresh->SetImageList(QV_GetSkinPath() + L"\\OPAL\\Reset.png", QVIMAGE_HAS_ALL);
+    m_SafeColorOrg = m_SafeColor;
+    SetDirty();
+    SetTabStop();
+    m_pLumLow->SetFocus();
+    m_pLumLow->SetSel(0, -1);
+    return FALSE;
+}
+
+void CQVSafeColorDlg::TakeControls() {
+    m_pLumUnit = GetDlgItem(IDC_SAFECOLOR_LUM_UNIT);
+    m_pChromaUnit = GetDlgItem(IDC_SAFECOLOR_CHROMA_UNIT);
+    m_pIgnore = GetDlgItem(IDC_SAFECOLOR_IGNORE);
+    m_pWarning = GetDlgItem(IDC_SAFECOLOR_WARNING);
+    m_pLimit = GetDlgItem(IDC_SAFECOLOR_LIMIT);
+    m_pLumRefresh = dynamic_cast<CQVButton*>(GetDlgItem(IDC_SAFECOLOR_LUM_REFRESH));
+    m_pChromaRefresh = dynamic_cast<CQVButton*>(GetDlgItem(IDC_SAFECOLOR_CHROMA_REFRESH));
 }
 
 void CQVSafeColorDlg::GetEditValue() {
-    if (!Ready())
+    if (!m_pChromaHigh)
         return;
-    ReadLuminance(m_pLumLow, m_SafeColor.dLumLow, m_dLumLowPercent);
-    ReadLuminance(m_pLumHigh, m_SafeColor.dLumHigh, m_dLumHighPercent);
+    const bool percent = InPercent(m_SafeColor);
+    TakeLuminance(m_pLumLow->GetPos(), percent, m_SafeColor.dLumLow, m_dLumLowPercent);
+    TakeLuminance(m_pLumHigh->GetPos(), percent, m_SafeColor.dLumHigh, m_dLumHighPercent);
     if (m_SafeColor.nChromaUnit != QVSAFECOLOR_8BIT)
         m_SafeColor.dChromaHigh = m_pChromaHigh->GetPos();
 }
 
 void CQVSafeColorDlg::SetEditValue() {
-    if (!Ready())
+    if (!m_pChromaHigh)
         return;
-    const bool percent = InPercent();
-    for (CQVNumberEditEx* edit : {m_pLumLow, m_pLumHigh}) {
-        edit->SetDecimals(percent ? 1 : 0);
-        edit->SetRange(percent ? kLowestPercent : kLowestCode, percent ? kHighestPercent : kHighestCode);
-    }
-    m_pLumLow->SetPos(percent ? m_dLumLowPercent : RoundCode(m_SafeColor.dLumLow));
-    m_pLumHigh->SetPos(percent ? m_dLumHighPercent : RoundCode(m_SafeColor.dLumHigh));
+    const bool percent = InPercent(m_SafeColor);
+    ShowLuminance(*m_pLumLow, percent, m_SafeColor.dLumLow, m_dLumLowPercent);
+    ShowLuminance(*m_pLumHigh, percent, m_SafeColor.dLumHigh, m_dLumHighPercent);
     // The unit combo of the chrominance is disabled: only percent is offered.
     if (m_SafeColor.nChromaUnit != QVSAFECOLOR_8BIT) {
         m_pChromaHigh->SetDecimals(1);
@@ -88,22 +137,32 @@ void CQVSafeColorDlg::SetEditValue() {
     }
 }
 
+// OK is there for a change.
+void CQVSafeColorDlg::SetDirty() {
+    if (CWnd* ok = GetDlgItem(IDOK))
+        ok->EnableWindow(!(m_SafeColor == m_SafeColorOrg));
+}
+
+// The place for another order of the tab key; the template's is right.
+void CQVSafeColorDlg::SetTabStop() {
+}
+
 void CQVSafeColorDlg::OnEditLumlow() {
-    if (!Ready())
+    if (!m_pChromaHigh)
         return;
-    ReadLuminance(m_pLumLow, m_SafeColor.dLumLow, m_dLumLowPercent);
+    TakeLuminance(m_pLumLow->GetPos(), InPercent(m_SafeColor), m_SafeColor.dLumLow, m_dLumLowPercent);
     SetDirty();
 }
 
 void CQVSafeColorDlg::OnEditLumHigh() {
-    if (!Ready())
+    if (!m_pChromaHigh)
         return;
-    ReadLuminance(m_pLumHigh, m_SafeColor.dLumHigh, m_dLumHighPercent);
+    TakeLuminance(m_pLumHigh->GetPos(), InPercent(m_SafeColor), m_SafeColor.dLumHigh, m_dLumHighPercent);
     SetDirty();
 }
 
 void CQVSafeColorDlg::OnEditChroHigh() {
-    if (!Ready())
+    if (!m_pChromaHigh)
         return;
     m_SafeColor.dChromaHigh = m_pChromaHigh->GetPos();
     SetDirty();
@@ -111,7 +170,7 @@ void CQVSafeColorDlg::OnEditChroHigh() {
 
 // The correction looks at the code values only; in percent the edits show the percentages that were read.
 LRESULT CQVSafeColorDlg::OnTimeCodeEditChangeEx(WPARAM, LPARAM lParam) {
-    if (!Ready())
+    if (!m_pChromaHigh)
         return 0;
     GetEditValue();
     const auto* sender = reinterpret_cast<const CWnd*>(lParam);
@@ -135,25 +194,27 @@ void CQVSafeColorDlg::OnBnClickedBtnLumRefresh() {
     m_SafeColor.ResetDirty(QVSAFECOLOR_LUMINANCE);
     m_dLumLowPercent = CodeToPercent(m_SafeColor.dLumLow);
     m_dLumHighPercent = CodeToPercent(m_SafeColor.dLumHigh);
-    if (Ready()) {
-        const bool percent = InPercent();
-        m_pLumLow->SetPos(percent ? m_dLumLowPercent : RoundCode(PercentToCode(m_dLumLowPercent)));
-        m_pLumHigh->SetPos(percent ? m_dLumHighPercent : RoundCode(PercentToCode(m_dLumHighPercent)));
-    }
+    if (!m_pChromaHigh)
+        return;
+    const bool percent = InPercent(m_SafeColor);
+    ShowLuminance(*m_pLumLow, percent, PercentToCode(m_dLumLowPercent), m_dLumLowPercent);
+    ShowLuminance(*m_pLumHigh, percent, PercentToCode(m_dLumHighPercent), m_dLumHighPercent);
     m_pLumRefresh->SetCheck(m_SafeColor.IsDirty(QVSAFECOLOR_LUMINANCE));
     SetDirty();
 }
 
 void CQVSafeColorDlg::OnBnClickedBtnChromRefresh() {
     m_SafeColor.ResetDirty(QVSAFECOLOR_CHROMINANCE);
-    if (Ready() && m_SafeColor.nChromaUnit != QVSAFECOLOR_8BIT)
+    if (!m_pChromaHigh)
+        return;
+    if (m_SafeColor.nChromaUnit != QVSAFECOLOR_8BIT)
         m_pChromaHigh->SetPos(m_SafeColor.dChromaHigh);
     m_pChromaRefresh->SetCheck(m_SafeColor.IsDirty(QVSAFECOLOR_CHROMINANCE));
     SetDirty();
 }
 
 void CQVSafeColorDlg::OnLumTypeClicked() {
-    const LRESULT selection = m_pLumUnit->SendMessage(CB_GETCURSEL);
+    const LRESULT selection = m_pLumUnit ? m_pLumUnit->SendMessage(CB_GETCURSEL) : CB_ERR;
     if (selection < 0)
         return;
     GetEditValue();
@@ -162,33 +223,15 @@ void CQVSafeColorDlg::OnLumTypeClicked() {
     SetDirty();
 }
 
-void CQVSafeColorDlg::ReadAction() {
-    auto checked = [](CWnd* radio) { return radio && radio->SendMessage(BM_GETCHECK) != BST_UNCHECKED; };
-    if (checked(m_pLimit))
-        m_SafeColor.nAction = QVSAFECOLOR_LIMIT;
-    else if (checked(m_pWarning))
-        m_SafeColor.nAction = QVSAFECOLOR_WARNING;
-    else if (checked(m_pIgnore))
-        m_SafeColor.nAction = QVSAFECOLOR_IGNORE;
-}
-
 void CQVSafeColorDlg::OnBnClickedRadio() {
-    ReadAction();
+    m_SafeColor.nAction = CheckedAction({m_pLimit, m_pWarning, m_pIgnore}, m_SafeColor.nAction);
     SetDirty();
     SetTabStop();
 }
 
-void CQVSafeColorDlg::SetDirty() {
-    if (CWnd* ok = GetDlgItem(IDOK))
-        ok->EnableWindow(!(m_SafeColor == m_SafeColorOrg));
-}
-
-void CQVSafeColorDlg::SetTabStop() {
-}
-
 void CQVSafeColorDlg::OnBnClickedOk() {
     GetEditValue();
-    ReadAction();
+    m_SafeColor.nAction = CheckedAction({m_pLimit, m_pWarning, m_pIgnore}, m_SafeColor.nAction);
     CDialog::OnOK();
 }
 
@@ -200,6 +243,13 @@ LRESULT CQVSafeColorDlg::OnMessageHelp(WPARAM, LPARAM) {
 
 void CQVSafeColorDlg::OnSkinChange(UINT reason, HWND wnd) {
     CQVDialog::OnSkinChange(reason, wnd);
+}
+
+void CQVSafeColorDlg::OnDestroy() {
+    DestroyNumberEdit(m_pChromaHigh);
+    DestroyNumberEdit(m_pLumHigh);
+    DestroyNumberEdit(m_pLumLow);
+    CQVDialog::OnDestroy();
 }
 
 } // namespace _qv_commonwnd

@@ -15,8 +15,8 @@ struct StringDialogLayout {
 // With a prompt above the field. Client pixels; the figures are pixels at 96 DPI and scaled to `dpi`.
 StringDialogLayout LayOutPromptedString(const CRect& client, UINT dpi);
 
-// The resizable form: the field fills the client area but for its margins (`label` is empty); the buttons are moved
-// down from where they stand, so that each change of size moves them further.
+// The resizable form: the field fills the client area but for its margins (`label` is empty); the buttons are
+// moved down from where they stand, so that each change of size moves them further.
 StringDialogLayout LayOutStringWindow(const CRect& client, const CRect& ok, const CRect& cancel, UINT dpi);
 
 } // namespace _qv_commonwnd

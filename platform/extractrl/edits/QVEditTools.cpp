@@ -1,6 +1,7 @@
 #include "QVEditTools.h"
 
 #include "QVExtraCtrlDef.h"
+#include "support/QVGuards.h"
 
 #include <algorithm>
 #include <string_view>
@@ -16,21 +17,6 @@ constexpr wchar_t kFirstFullWidth = 0xFF01; // full-width '!'
 constexpr wchar_t kLastFullWidth = 0xFF5E;  // full-width '~'
 constexpr wchar_t kFullWidthOffset = 0xFEE0;
 constexpr wchar_t kMinusSign = 0x2212;
-
-class ClipboardScope {
-  public:
-    explicit ClipboardScope(HWND wnd) : m_open(::OpenClipboard(wnd) != FALSE) {}
-    ClipboardScope(const ClipboardScope&) = delete;
-    ClipboardScope& operator=(const ClipboardScope&) = delete;
-    ~ClipboardScope() {
-        if (m_open)
-            ::CloseClipboard();
-    }
-    bool IsOpen() const { return m_open; }
-
-  private:
-    bool m_open;
-};
 
 std::wstring Trimmed(std::wstring_view text) {
     constexpr std::wstring_view kBlanks = L" \t\r\n\u00A0\u3000";
@@ -48,7 +34,7 @@ bool HasPostedCommand(HWND parent) {
 } // namespace
 
 std::wstring QV_ReadClipboard(HWND wnd) {
-    const ClipboardScope clipboard(wnd);
+    const QVClipboardScope clipboard(wnd);
     if (!clipboard.IsOpen())
         return {};
     const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);

@@ -1,5 +1,5 @@
-// What a number edit shows, accepts and means. Plain functions, any thread. The decimal point is '.'; a typed
-// ',' means the same.
+// What a number edit shows, accepts and means. Plain functions, any thread. The decimal point is '.'; a typed ','
+// means the same.
 #pragma once
 
 #include <string>
@@ -9,8 +9,7 @@ namespace _qv_extractrl {
 
 constexpr int kMostDecimals = 9;
 
-// How a number edit is set up: its range (lo <= hi, both finite) and digits after the point
-// (0..kMostDecimals).
+// How a number edit is set up: its range (lo <= hi, both finite) and digits after the point (0..kMostDecimals).
 struct QVNumberRule {
     double lo;
     double hi;
@@ -27,8 +26,7 @@ double QV_BoundNumber(double value, const QVNumberRule& rule);
 // The number with the rule's decimals; never "-0". Not finite: "0" with its decimals.
 std::wstring QV_FormatNumber(double value, int decimals);
 
-// Reads a text that a number edit may hold. False, and `value` untouched, when it holds no digit or anything
-// else.
+// Reads a text that a number edit may hold. False, and `value` untouched, when it holds no digit or anything else.
 bool QV_ParseNumber(std::wstring_view text, double& value);
 
 // Whether a text may stand in the edit while it is being typed: an optional minus sign (only when the range

@@ -1,8 +1,8 @@
 #include "QVTimeCodeEditEx.h"
 
-#include "QVTimecode.h"
-#include "support/QVControlClass.h"
 #include "QVEditTools.h"
+#include "QVTimecodeTyping.h"
+#include "support/QVControlClass.h"
 
 namespace _qv_extractrl {
 
@@ -12,6 +12,17 @@ using _qv_commonctrl::TimecodeFrameRate;
 namespace {
 
 constexpr int kLargeStep = 10;
+
+// Control characters that keys make.
+enum EditCommand : UINT {
+    kSelectAll = 0x01,
+    kCopy = 0x03,
+    kBackspace = 0x08,
+    kPaste = 0x16,
+    kCut = 0x18,
+    kUndo = 0x1A,
+    kFirstPrintable = 0x20,
+};
 
 struct TimeCodeClass {
     static CQVControlClass& ControlClass();
@@ -24,8 +35,38 @@ CQVControlClass& TimeCodeClass::ControlClass() {
     return g_class;
 }
 
+bool IsDown(int key) {
+    return ::GetKeyState(key) < 0;
+}
+
 int StepFactor() {
-    return ::GetKeyState(VK_SHIFT) < 0 ? kLargeStep : 1;
+    return IsDown(VK_SHIFT) ? kLargeStep : 1;
+}
+
+QVTextSpan SelectionOf(const CEdit& edit) {
+    QVTextSpan selection;
+    edit.GetSel(selection.from, selection.to);
+    return selection;
+}
+
+// Left, Right, Home and End choose a field of a label. False for any other key.
+bool MoveOfKey(UINT key, QVFieldMove& move) {
+    switch (key) {
+    case VK_LEFT:
+        move = QVFieldMove::Previous;
+        return true;
+    case VK_RIGHT:
+        move = QVFieldMove::Next;
+        return true;
+    case VK_HOME:
+        move = QVFieldMove::First;
+        return true;
+    case VK_END:
+        move = QVFieldMove::Last;
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -47,99 +88,121 @@ BEGIN_MESSAGE_MAP(CQVTimeCodeEditEx, CQVEdit)
     ON_MESSAGE(WM_SETTEXT, &CQVTimeCodeEditEx::OnSetText)
 END_MESSAGE_MAP()
 
-CQVTimeCodeEditEx::CQVTimeCodeEditEx() = default;
-CQVTimeCodeEditEx::~CQVTimeCodeEditEx() = default;
+CQVTimeCodeEditEx::CQVTimeCodeEditEx() : m_pTyping(new QVTimecodeTyping) {
+}
+
+CQVTimeCodeEditEx::~CQVTimeCodeEditEx() {
+    delete m_pTyping;
+}
 
 BOOL CQVTimeCodeEditEx::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) {
     return CWnd::Create(g_class.Name(), nullptr, dwStyle, rect, pParent, nID);
 }
 
-void CQVTimeCodeEditEx::PostNcDestroy() {
-    CQVEdit::PostNcDestroy();
-    QV_DeleteTemplateObject(this);
+void CQVTimeCodeEditEx::SetEditMode(int nMode) {
+    Typing().SetMode(nMode == QVTIMECODE_FRAMES ? QVTimecodeText::FrameCount : QVTimecodeText::Timecode);
+    ShowTyping();
 }
 
-void CQVTimeCodeEditEx::SetEditMode(int nMode) {
-    DropTyping();
-    m_nMode = nMode == QVTIMECODE_FRAMES ? QVTIMECODE_FRAMES : QVTIMECODE_LABEL;
-    ShowFrame();
+int CQVTimeCodeEditEx::GetEditMode() const {
+    return m_pTyping->IsLabel() ? QVTIMECODE_LABEL : QVTIMECODE_FRAMES;
 }
 
 void CQVTimeCodeEditEx::SetFrameRate(TimecodeFrameRate rate) {
-    DropTyping();
-    m_rate = rate;
-    ShowFrame();
+    Typing().SetRate(rate);
+    ShowTyping();
+}
+
+TimecodeFrameRate CQVTimeCodeEditEx::GetFrameRate() const {
+    return m_pTyping->Rate();
 }
 
 void CQVTimeCodeEditEx::SetFrame(__int64 nFrame, BOOL bNotify) {
-    if (m_bTyping && nFrame == m_nFrame)
-        return; // what the user types stands for it already
-    DropTyping();
-    const bool changed = nFrame != m_nFrame;
-    m_nFrame = nFrame;
-    m_nUndoFrame = nFrame;
-    ShowFrame();
-    if (changed && bNotify)
-        Send(QVEDIT_CHANGED);
+    Typing().SetFrame(nFrame);
+    if (!bNotify)
+        m_pTyping->TakeNews();
+    ShowTyping();
 }
 
 __int64 CQVTimeCodeEditEx::GetFrame() const {
-    __int64 typed = 0;
-    bool relative = false;
-    return m_bTyping && ReadTyped(typed, relative) ? typed : m_nFrame;
-}
-
-CString CQVTimeCodeEditEx::FormatFrame(__int64 nFrame) const {
-    CString text;
-    if (IsLabelMode()) {
-        wchar_t label[QV_TIMECODE_CHARS];
-        QV_FormatTimecode(nFrame, m_rate, label, QV_TIMECODE_CHARS);
-        text = label;
-    } else {
-        text.Format(L"%I64d", nFrame);
-    }
-    return text;
-}
-
-void CQVTimeCodeEditEx::ShowText(const CString& strText) {
-    if (!m_hWnd)
-        return;
-    CString shown;
-    GetWindowText(shown);
-    if (shown == strText)
-        return;
-    const bool before = m_bShowing;
-    m_bShowing = true;
-    SetWindowText(strText);
-    m_bShowing = before;
-}
-
-void CQVTimeCodeEditEx::ShowFrame() {
-    ShowText(FormatFrame(m_nFrame));
-}
-
-void CQVTimeCodeEditEx::Send(int nCode) {
-    if (m_hWnd)
-        QV_SendEditNotify(this, nCode);
+    return m_pTyping->Frame();
 }
 
 LRESULT CQVTimeCodeEditEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = CQVEdit::WindowProc(message, wParam, lParam);
     if (message == WM_CREATE && result != -1)
-        ShowFrame();
+        ShowTyping();
     else if (message == WM_GETDLGCODE && QV_AsksForEnter(lParam))
         result |= DLGC_WANTMESSAGE;
     return result;
 }
 
+// What a key is to change, with the selection as it stands in the window.
+QVTimecodeTyping& CQVTimeCodeEditEx::Typing() {
+    if (m_hWnd)
+        m_pTyping->Select(SelectionOf(*this));
+    return *m_pTyping;
+}
+
+// Shows what has come of a key and tells the parent. False when the parent closed the window over it.
+bool CQVTimeCodeEditEx::ShowTyping() {
+    const HWND self = m_hWnd;
+    if (!self) {
+        m_pTyping->TakeNews(); // there is nobody to tell
+        return true;
+    }
+    CString shown;
+    GetWindowText(shown);
+    if (shown != m_pTyping->Text().c_str()) {
+        const bool before = m_bShowing;
+        m_bShowing = true;
+        SetWindowText(m_pTyping->Text().c_str());
+        m_bShowing = before;
+    }
+    const QVTextSpan selection = m_pTyping->Selection();
+    if (selection != SelectionOf(*this))
+        SetSel(selection.from, selection.to);
+    if (m_pTyping->TakeNews())
+        QV_SendEditNotify(this, QVEDIT_CHANGED);
+    return ::IsWindow(self) != FALSE;
+}
+
+bool CQVTimeCodeEditEx::IsReadOnly() const {
+    return (GetStyle() & ES_READONLY) != 0;
+}
+
 void CQVTimeCodeEditEx::OnChar(UINT nChar, UINT, UINT) {
-    if (TypeCommand(nChar) || IsReadOnly())
+    switch (nChar) {
+    case kSelectAll: {
+        QVTimecodeTyping& typing = Typing();
+        typing.Finish();
+        typing.SelectAll();
+        ShowTyping();
         return;
-    const wchar_t typed = QV_NarrowChar(static_cast<wchar_t>(nChar));
-    if (IsLabelMode())
-        TypeLabelChar(typed);
+    }
+    case kCopy:
+        SendMessage(WM_COPY);
+        return;
+    case kPaste:
+        SendMessage(WM_PASTE);
+        return;
+    case kCut:
+        SendMessage(WM_CUT);
+        return;
+    case kUndo:
+        SendMessage(WM_UNDO);
+        return;
+    default:
+        break;
+    }
+    const bool isText = nChar >= kFirstPrintable; // Enter, Escape and Tab have been dealt with as keys
+    if (IsReadOnly() || (!isText && nChar != kBackspace))
+        return;
+    if (isText)
+        Typing().Type(QV_NarrowChar(static_cast<wchar_t>(nChar)));
     else
-        TypeFramesChar(typed);
+        Typing().EraseBackwards();
+    ShowTyping();
 }
 
 void CQVTimeCodeEditEx::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
@@ -157,24 +220,40 @@ void CQVTimeCodeEditEx::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
         Step(-kLargeStep);
         return;
     case VK_RETURN:
-        if (FinishTyping())
+        Typing().Finish();
+        if (ShowTyping())
             QV_SendEnter(this);
         return;
     case VK_ESCAPE: // only without a dialog around it, which would have taken the key
-        GoBack();
+        Typing().GoBack();
+        ShowTyping();
         return;
     case VK_DELETE:
-        if (IsLabelMode()) {
-            EraseSelected();
-            return;
+        if (IsDown(VK_SHIFT) && !m_pTyping->IsLabel()) {
+            SendMessage(WM_CUT);
+        } else if (!IsReadOnly()) {
+            Typing().EraseForwards();
+            ShowTyping();
         }
-        CQVEdit::OnKeyDown(nChar, nRepCnt, nFlags);
-        TakeTyped();
         return;
     default:
-        if (!MoveByKey(nChar))
-            CQVEdit::OnKeyDown(nChar, nRepCnt, nFlags);
+        break;
     }
+    QVFieldMove move = QVFieldMove::First;
+    const bool isPlainKey = m_pTyping->IsLabel() && !IsDown(VK_SHIFT) && !IsDown(VK_CONTROL);
+    if (isPlainKey && MoveOfKey(nChar, move)) {
+        Typing().Move(move);
+        ShowTyping();
+    } else {
+        CQVEdit::OnKeyDown(nChar, nRepCnt, nFlags);
+    }
+}
+
+void CQVTimeCodeEditEx::Step(int nSteps) {
+    if (IsReadOnly())
+        return;
+    Typing().Step(nSteps);
+    ShowTyping();
 }
 
 BOOL CQVTimeCodeEditEx::OnMouseWheel(UINT nFlags, short zDelta, CPoint) {
@@ -185,30 +264,34 @@ BOOL CQVTimeCodeEditEx::OnMouseWheel(UINT nFlags, short zDelta, CPoint) {
 }
 
 void CQVTimeCodeEditEx::OnLButtonDown(UINT nFlags, CPoint point) {
-    if (FinishTyping())
+    Typing().Finish();
+    if (ShowTyping())
         CQVEdit::OnLButtonDown(nFlags, point);
 }
 
 void CQVTimeCodeEditEx::OnLButtonUp(UINT nFlags, CPoint point) {
     CQVEdit::OnLButtonUp(nFlags, point);
-    int from = 0, to = 0;
-    GetSel(from, to);
-    if (IsLabelMode() && from == to) // a click chooses a field, a drag a text to copy
-        SelectField(SelectedField());
+    const QVTextSpan selection = SelectionOf(*this);
+    if (!m_pTyping->IsLabel() || selection.from != selection.to)
+        return; // a drag chooses a text to copy, a click a field
+    Typing().SelectFieldHere();
+    ShowTyping();
 }
 
 void CQVTimeCodeEditEx::OnKillFocus(CWnd* pNewWnd) {
     CQVEdit::OnKillFocus(pNewWnd);
-    FinishTyping();
+    Typing().Finish();
+    ShowTyping();
 }
 
 LRESULT CQVTimeCodeEditEx::OnPaste(WPARAM, LPARAM) {
     if (IsReadOnly())
         return 0;
-    CString pasted;
-    for (const wchar_t c : QV_ReadClipboard(m_hWnd))
-        pasted += QV_NarrowChar(c);
-    TakeText(pasted);
+    std::wstring pasted = QV_ReadClipboard(m_hWnd);
+    for (wchar_t& c : pasted)
+        c = QV_NarrowChar(c);
+    Typing().TakeText(pasted);
+    ShowTyping();
     return 0;
 }
 
@@ -219,27 +302,35 @@ LRESULT CQVTimeCodeEditEx::OnCut(WPARAM, LPARAM) {
 }
 
 LRESULT CQVTimeCodeEditEx::OnClear(WPARAM, LPARAM) {
-    if (IsReadOnly())
+    const QVTextSpan selection = SelectionOf(*this);
+    if (IsReadOnly() || (!m_pTyping->IsLabel() && selection.from == selection.to))
         return 0;
-    if (IsLabelMode()) {
-        EraseSelected();
-        return 0;
-    }
-    Default();
-    TakeTyped();
+    Typing().EraseForwards();
+    ShowTyping();
     return 0;
 }
 
 LRESULT CQVTimeCodeEditEx::OnUndo(WPARAM, LPARAM) {
-    if (!IsReadOnly())
-        GoBack();
+    if (IsReadOnly())
+        return TRUE;
+    Typing().GoBack();
+    ShowTyping();
     return TRUE;
 }
 
+// From outside: a text that cannot be read is refused, null is an empty one.
 LRESULT CQVTimeCodeEditEx::OnSetText(WPARAM, LPARAM lParam) {
     if (m_bShowing)
         return Default();
-    return TakeText(reinterpret_cast<const wchar_t*>(lParam)); // null is an empty text, which is refused
+    const auto* const text = reinterpret_cast<const wchar_t*>(lParam);
+    const bool isTaken = Typing().TakeText(text ? text : L"");
+    ShowTyping();
+    return isTaken;
+}
+
+void CQVTimeCodeEditEx::PostNcDestroy() {
+    CQVEdit::PostNcDestroy();
+    QV_DeleteTemplateObject(this);
 }
 
 } // namespace _qv_extractrl

@@ -2,19 +2,21 @@
 //
 //   auto* edit = new CQVNumberEditEx;
 //   edit->CreateEx(WS_EX_CLIENTEDGE, L"NumberEditClass", nullptr, WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect,
-//   this, 2045); edit->LimitText(5); edit->SetDecimals(1); edit->SetRange(-7.3, 109.0); edit->SetPos(100.0);
+//                  this, 2045);
+//   edit->LimitText(5);
+//   edit->SetDecimals(1);
+//   edit->SetRange(-7.3, 109.0);
+//   edit->SetPos(100.0);
 //
 // Messages to the parent:
-//   EN_CHANGE (WM_COMMAND)   the user has changed the text, each key; not sent for SetPos, SetRange,
-//   SetDecimals QVN_EDITNOTIFY, 1        the user has finished a new value: the edit lost the focus, or
-//   Enter, an arrow key,
+//   EN_CHANGE (WM_COMMAND)   the user has changed the text, each key; not sent for SetPos, SetRange, SetDecimals
+//   QVN_EDITNOTIFY, 1        the user has finished a new value: the edit lost the focus, or Enter, an arrow key,
 //                            Page Up/Down or the wheel was used
 //   QVN_EDITNOTIFY, 4        Enter was pressed (after 1, when there is a new value). A parent that does not
-//   answer
-//                            by posting a command has its default button pressed, as with any edit of a
+//                            answer by posting a command has its default button pressed, as with any edit of a
 //                            dialog.
-// The range is applied when the value is finished, so that every number can be typed; GetPos is inside it
-// always.
+//
+// The range is applied when the value is finished, so that every number can be typed; GetPos is inside it always.
 #pragma once
 
 #include "QVExtraCtrlDef.h"

@@ -87,12 +87,6 @@ class QVEXTRACTRL_API CQVRectTracker : public CWnd, public _qv_commonctrl::CQVBa
     bool CanMove() const;
     void MoveByUser(LONGLONG nLeft, LONGLONG nTop);
     void Redraw();
-    void Draw(CDC& dc, const CRect& rcClient) const;
-    void DrawRange(CDC& dc, const CRect& rcView) const;
-    void DrawTrackRect(CDC& dc, const struct QVTrackerView& view) const;
-    void DrawPicture(CDC& dc, const CRect& rcPicture) const;
-    void DrawSize(CDC& dc, const CRect& rcArea, const CSize& size, UINT nFormat) const;
-    void DrawCorners(CDC& dc, const CRect& rcPicture, COLORREF color) const;
 
     CRect m_rcRange;
     CRect m_rcTrack;

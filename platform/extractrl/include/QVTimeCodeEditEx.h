@@ -44,11 +44,11 @@ class QVEXTRACTRL_API CQVTimeCodeEditEx : public _qv_commonctrl::CQVEdit {
 
     // A QVTimeCodeEditMode; other values count as QVTIMECODE_LABEL. The frame stays.
     void SetEditMode(int nMode);
-    int GetEditMode() const { return m_nMode; }
+    int GetEditMode() const;
 
     // The frame stays, its label is that of the new rate.
     void SetFrameRate(_qv_commonctrl::TimecodeFrameRate rate);
-    _qv_commonctrl::TimecodeFrameRate GetFrameRate() const { return m_rate; }
+    _qv_commonctrl::TimecodeFrameRate GetFrameRate() const;
 
     // The frame, any 64-bit number. bNotify TRUE: the parent gets QVN_EDITNOTIFY 1 when the frame is another
     // one than before. A text that is being typed is given up, unless it stands for this very frame.
@@ -74,47 +74,14 @@ class QVEXTRACTRL_API CQVTimeCodeEditEx : public _qv_commonctrl::CQVEdit {
     DECLARE_MESSAGE_MAP()
 
   private:
-    bool IsLabelMode() const { return m_nMode == QVTIMECODE_LABEL; }
-    bool IsReadOnly() const { return (GetStyle() & ES_READONLY) != 0; }
-    bool IsAllSelected() const;
-    int FrameDigits() const;
-    int SelectedField() const;
-    void SelectField(int nField);
-    CString FormatFrame(__int64 nFrame) const;
-    void ShowText(const CString& strText);
-    void ShowFrame();
-    bool Parse(const CString& strText, __int64 nCurrent, __int64& nFrame) const;
-    bool ReadTyped(__int64& nFrame, bool& bRelative) const;
-    bool TakeText(const CString& strText);
-    void TakeFrame(__int64 nFrame);
-    void BeginTyping();
-    bool FinishTyping();
-    void DropTyping();
-    void GoBack();
-    void TypeLabelChar(wchar_t chTyped);
-    void TypeEntryChar(wchar_t chTyped);
-    void TypeFieldDigit(int nField, wchar_t chDigit);
-    void ShowEntry();
-    void EraseBackwards();
-    void SetFieldText(int nField, const CString& strDigits);
-    void EraseSelected();
-    void TakeTyped();
-    void TypeFramesChar(wchar_t chTyped);
-    bool TypeCommand(UINT nChar);
-    bool MoveByKey(UINT nKey);
+    class QVTimecodeTyping& Typing();
+    bool ShowTyping();
+    bool IsReadOnly() const;
     void Step(int nSteps);
-    void Send(int nCode);
 
-    _qv_commonctrl::TimecodeFrameRate m_rate;
-    int m_nMode = QVTIMECODE_LABEL;
-    __int64 m_nFrame = 0;
-    __int64 m_nUndoFrame = 0; // the frame before the last change
-    __int64 m_nEntryBase = 0; // the frame when typing began
-    CString m_strEntry;       // typed so far over the whole text; empty: nothing
-    int m_nFieldDigits = 0;   // digits typed into the selected field so far
-    bool m_bTyping = false;   // the text is the user's and not finished
-    bool m_bShowing = false;  // the text is being set by the control itself
-    int m_nWheelRest = 0;     // wheel movement smaller than a notch
+    class QVTimecodeTyping* m_pTyping; // owned: what the keys have made of the frame so far
+    bool m_bShowing = false;           // the text is being set by the control itself
+    int m_nWheelRest = 0;              // wheel movement smaller than a notch
 };
 
 } // namespace _qv_extractrl

@@ -29,8 +29,8 @@ class QVEXTRACTRL_API CQVVUTableCtrl : public CWnd, public _qv_commonctrl::CQVBa
     // The level: 0 (foot) to 100 (top), bounded. The rows that look different are painted before the call
     // returns; when none does, nothing is painted. Without a window only the level is kept.
     void SetPos(int nPos);
-    // The same for many meters at once, which for meters of one window costs little more than copying the changed
-    // pixels. pPos: nCount levels. ppMeters: as many meters, of which null ones are left out.
+    // The same for many meters at once, which for meters of one window costs little more than copying the
+    // changed pixels. pPos: nCount levels. ppMeters: as many meters, of which null ones are left out.
     static void SetPos(CQVVUTableCtrl* const* ppMeters, const int* pPos, int nCount);
     int GetPos() const;
 
@@ -57,7 +57,7 @@ class QVEXTRACTRL_API CQVVUTableCtrl : public CWnd, public _qv_commonctrl::CQVBa
 
   private:
     friend class CQVMeterClock;
-    class CQVMeterImpl* m_pImpl; // owned
+    class CQVMeterFace* m_pFace; // owned
 };
 
 } // namespace _qv_extractrl

@@ -1,6 +1,6 @@
 #include "QVMeterClock.h"
 
-#include "QVMeterImpl.h"
+#include "QVMeterFace.h"
 
 #include <algorithm>
 
@@ -50,7 +50,7 @@ void CQVMeterClock::Tick() {
     const ULONGLONG now = ::GetTickCount64();
     CQVMeterPainter painter(QVMeterRound::ManyMeters);
     std::erase_if(m_meters,
-                  [&](CQVVUTableCtrl* meter) { return !meter->m_pImpl->Tick(meter->m_hWnd, now, painter); });
+                  [&](CQVVUTableCtrl* meter) { return !meter->m_pFace->Tick(meter->m_hWnd, now, painter); });
     StopWhenIdle();
 }
 

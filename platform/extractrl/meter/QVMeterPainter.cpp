@@ -4,7 +4,8 @@ namespace _qv_extractrl {
 
 namespace {
 
-// Windows that count their pixels from the right, or are mixed with what is below them, are left to themselves.
+// Windows that count their pixels from the right, or are mixed with what is below them, are left to
+// themselves.
 bool IsPlain(HWND wnd) {
     return (::GetWindowLongPtrW(wnd, GWL_EXSTYLE) & (WS_EX_LAYOUTRTL | WS_EX_LAYERED)) == 0;
 }
@@ -15,7 +16,8 @@ void CQVMeterPainter::Paint(HWND meter, const CQVMeterStrip& strip, const QVMete
     const LONG_PTR style = ::GetWindowLongPtrW(meter, GWL_STYLE);
     if ((style & WS_VISIBLE) == 0)
         return;
-    // Through its parent a window looks as through a context of its own when it does not give way to what covers it.
+    // Through its parent a window looks as through a context of its own when it does not give way to what
+    // covers it.
     POINT origin = {0, 0};
     if (m_round == QVMeterRound::ManyMeters && (style & (WS_CHILD | WS_CLIPSIBLINGS)) == WS_CHILD &&
         UseParent(meter, origin)) {

@@ -5,8 +5,9 @@
 
 namespace _qv_extractrl {
 
-// Many meters side by side are painted through one device context of their parent: to change from one meter's own
-// context to the next costs several times what is copied through it. To fetch the parent's does not pay for one meter.
+// Many meters side by side are painted through one device context of their parent: to change from one meter's
+// own context to the next costs several times what is copied through it. To fetch the parent's does not pay
+// for one meter.
 enum class QVMeterRound { OneMeter, ManyMeters };
 
 // Made for one round over some meters.

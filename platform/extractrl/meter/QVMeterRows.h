@@ -53,7 +53,8 @@ class QVMeterRuns {
     int m_count = 0;
 };
 
-// The rows of the second picture that look different from those of the first: all of them when the heights differ.
+// The rows of the second picture that look different from those of the first: all of them when the heights
+// differ.
 QVMeterRuns QV_ChangedRuns(const QVMeterPicture& before, const QVMeterPicture& after);
 
 // The rows [from, to) of a picture; rows outside it are left out.

@@ -75,22 +75,12 @@ CQVMeterStrip::CQVMeterStrip(const QVMeterStripKey& key)
     : m_key(key), m_marks{QV_ScaleForDpi(kPeakMarkPx96, key.dpi), QV_ScaleForDpi(kClipMarkPx96, key.dpi)} {
     const BITMAPINFO info = TopDownBitmap(kColumns * key.width, key.height);
     void* pixels = nullptr;
-    m_columns = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
-    m_memory = ::CreateCompatibleDC(nullptr);
-    if (!m_columns || !m_memory)
+    m_columns.reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+    if (!m_columns)
         return; // out of drawing objects: nothing will be copied
-    m_former = ::SelectObject(m_memory, m_columns);
+    m_source.emplace(m_columns.get());
     Fill(static_cast<DWORD*>(pixels));
     ::GdiFlush();
-}
-
-CQVMeterStrip::~CQVMeterStrip() {
-    if (m_former)
-        ::SelectObject(m_memory, m_former);
-    if (m_memory)
-        ::DeleteDC(m_memory);
-    if (m_columns)
-        ::DeleteObject(m_columns);
 }
 
 void CQVMeterStrip::Fill(DWORD* pixels) const {
@@ -122,8 +112,10 @@ void CQVMeterStrip::Fill(DWORD* pixels) const {
 }
 
 void CQVMeterStrip::Draw(HDC dc, POINT at, const QVMeterRuns& runs) const {
+    if (!m_source)
+        return;
     for (const QVMeterRun& run : runs)
-        ::BitBlt(dc, at.x, at.y + run.from, m_key.width, run.to - run.from, m_memory,
+        ::BitBlt(dc, at.x, at.y + run.from, m_key.width, run.to - run.from, m_source->Get(),
                  static_cast<int>(run.state) * m_key.width, run.from, SRCCOPY);
 }
 

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "QVMeterRows.h"
+#include "support/QVGuards.h"
 
 #include <afxwin.h>
 
 #include <memory>
+#include <optional>
 
 namespace _qv_extractrl {
 
@@ -21,7 +23,6 @@ struct QVMeterStripKey {
 class CQVMeterStrip {
   public:
     explicit CQVMeterStrip(const QVMeterStripKey& key);
-    ~CQVMeterStrip();
     CQVMeterStrip(const CQVMeterStrip&) = delete;
     CQVMeterStrip& operator=(const CQVMeterStrip&) = delete;
 
@@ -40,9 +41,8 @@ class CQVMeterStrip {
     QVMeterStripKey m_key;
     QVMeterMarks m_marks;
     // A column as wide as a meter for each state of a row; any row of any meter is a row of it.
-    HBITMAP m_columns = nullptr;
-    HDC m_memory = nullptr; // with the columns selected
-    HGDIOBJ m_former = nullptr;
+    QVOwnedBitmap m_columns;
+    std::optional<QVBitmapDC> m_source; // of the columns
 };
 
 } // namespace _qv_extractrl

@@ -2,7 +2,7 @@
 
 #include "support/QVControlClass.h"
 #include "QVMeterClock.h"
-#include "QVMeterImpl.h"
+#include "QVMeterFace.h"
 
 namespace _qv_extractrl {
 
@@ -12,7 +12,8 @@ struct MeterClass {
     static CQVControlClass& ControlClass();
 };
 
-// A DC of its own, because a host may set a single meter many times a second, which is painted without WM_PAINT.
+// A DC of its own, because a host may set a single meter many times a second, which is painted without
+// WM_PAINT.
 CQVControlClass g_class(L"QVVUTableCtrl", nullptr, CS_OWNDC | CS_HREDRAW | CS_VREDRAW, 0,
                         &ControlProc<MeterClass>, [] { return static_cast<CWnd*>(new CQVVUTableCtrl); });
 
@@ -33,13 +34,13 @@ BEGIN_MESSAGE_MAP(CQVVUTableCtrl, CWnd)
     ON_MESSAGE(WM_DPICHANGED_AFTERPARENT, &CQVVUTableCtrl::OnDpiChanged)
 END_MESSAGE_MAP()
 
-CQVVUTableCtrl::CQVVUTableCtrl() : m_pImpl(new CQVMeterImpl) {
+CQVVUTableCtrl::CQVVUTableCtrl() : m_pFace(new CQVMeterFace) {
 }
 
 CQVVUTableCtrl::~CQVVUTableCtrl() {
     CQVMeterClock::Get().Remove(this);
     DestroyWindow(); // while this is still a meter, whose handlers the messages find
-    delete m_pImpl;
+    delete m_pFace;
 }
 
 BOOL CQVVUTableCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) {
@@ -51,7 +52,7 @@ void CQVVUTableCtrl::PreSubclassWindow() {
     AttachSkin(this);
     CRect client;
     GetClientRect(client);
-    m_pImpl->Resize(client.Size());
+    m_pFace->Resize(client.Size());
 }
 
 void CQVVUTableCtrl::PostNcDestroy() {
@@ -74,37 +75,37 @@ void CQVVUTableCtrl::SetPos(CQVVUTableCtrl* const* ppMeters, const int* pPos, in
         CQVVUTableCtrl* const meter = ppMeters[i];
         if (!meter)
             continue;
-        meter->m_pImpl->SetLevel(meter->m_hWnd, pPos[i], now, painter);
-        if (meter->m_hWnd && !meter->m_pImpl->State().IsAtRest())
+        meter->m_pFace->SetLevel(meter->m_hWnd, pPos[i], now, painter);
+        if (meter->m_hWnd && !meter->m_pFace->State().IsAtRest())
             CQVMeterClock::Get().Add(meter);
     }
 }
 
 int CQVVUTableCtrl::GetPos() const {
-    return m_pImpl->State().Level();
+    return m_pFace->State().Level();
 }
 
 int CQVVUTableCtrl::GetPeak() const {
-    return m_pImpl->State().Peak();
+    return m_pFace->State().Peak();
 }
 
 BOOL CQVVUTableCtrl::IsClipped() const {
-    return m_pImpl->State().IsClipped();
+    return m_pFace->State().IsClipped();
 }
 
 void CQVVUTableCtrl::ResetPeak() {
     CQVMeterPainter painter(QVMeterRound::OneMeter);
-    m_pImpl->Reset(m_hWnd, painter);
+    m_pFace->Reset(m_hWnd, painter);
 }
 
 void CQVVUTableCtrl::OnSkinChange(UINT reason, HWND wnd) {
-    m_pImpl->ForgetStrip();
+    m_pFace->ForgetStrip();
     CQVBaseCtrl::OnSkinChange(reason, wnd);
 }
 
 void CQVVUTableCtrl::OnPaint() {
     CPaintDC dc(this);
-    m_pImpl->Paint(m_hWnd, dc.GetSafeHdc(), dc.m_ps.rcPaint);
+    m_pFace->Paint(m_hWnd, dc.GetSafeHdc(), dc.m_ps.rcPaint);
 }
 
 BOOL CQVVUTableCtrl::OnEraseBkgnd(CDC*) {
@@ -113,7 +114,7 @@ BOOL CQVVUTableCtrl::OnEraseBkgnd(CDC*) {
 
 void CQVVUTableCtrl::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    m_pImpl->Resize(CSize(cx, cy));
+    m_pFace->Resize(CSize(cx, cy));
 }
 
 void CQVVUTableCtrl::OnDestroy() {
@@ -126,7 +127,7 @@ void CQVVUTableCtrl::OnLButtonDown(UINT, CPoint) {
 }
 
 LRESULT CQVVUTableCtrl::OnDpiChanged(WPARAM, LPARAM) {
-    m_pImpl->ForgetStrip();
+    m_pFace->ForgetStrip();
     Invalidate(FALSE);
     return 0;
 }

@@ -215,8 +215,8 @@ long long QV_StepTimecode(long long nFrame, const TimecodeFrameRate& rate, QVTim
     const long long perSecond = count.nLabelsPerSecond;
     const long long labelStep = static_cast<long long>(SecondsOf(eField)) * perSecond * nSteps;
     QVTimecodeLabel label = QV_FrameToLabel(nFrame, rate);
-    // Without skipped labels a step is a fixed number of frames. So far from zero that the sums below would not
-    // fit, nobody sees a skipped label more or less.
+    // Without skipped labels a step is a fixed number of frames. So far from zero that the sums below would
+    // not fit, nobody sees a skipped label more or less.
     if (count.nDroppedPerMinute == 0 || label.nDays > kMostSteppedDays)
         return AddFrames(nFrame, labelStep * count.nFramesPerLabel);
 

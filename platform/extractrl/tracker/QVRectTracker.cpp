@@ -1,13 +1,12 @@
 #include "QVRectTracker.h"
 
 #include "support/QVControlClass.h"
-#include "QVTrackerGeometry.h"
+#include "QVTrackerPainter.h"
 
 #include <QVMemoDC.h>
 #include <QVSkin.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace _qv_extractrl {
 
@@ -17,6 +16,7 @@ namespace {
 
 constexpr int kSmallStep = 1;
 constexpr int kLargeStep = 10;
+constexpr int kMarginPx96 = 6;    // round the shown range
 constexpr int kLeastHitPx96 = 12; // a tiny rectangle can still be caught by the mouse
 
 struct TrackerClass {
@@ -28,13 +28,6 @@ CQVControlClass g_class(L"QVRectTracker", nullptr, CS_HREDRAW | CS_VREDRAW, 0, &
 
 CQVControlClass& TrackerClass::ControlClass() {
     return g_class;
-}
-
-// How far a pixel of the view is, in units of the range.
-LONGLONG ScaleDistance(int pixels, LONGLONG rangeSize, int viewSize) {
-    return viewSize > 0
-               ? std::llround(static_cast<double>(pixels) * static_cast<double>(rangeSize) / viewSize)
-               : 0;
 }
 
 } // namespace
@@ -106,6 +99,13 @@ void CQVRectTracker::Redraw() {
         Invalidate(FALSE);
 }
 
+QVTrackerView CQVRectTracker::View() const {
+    CRect client;
+    if (m_hWnd)
+        GetClientRect(client);
+    return QV_GetTrackerView(m_rcRange, client, QV_ScalePx(m_hWnd, kMarginPx96));
+}
+
 bool CQVRectTracker::CanMove() const {
     return m_nTrackerMode != QVTRACKER_LOCKED && !View().IsEmpty();
 }
@@ -142,7 +142,9 @@ void CQVRectTracker::OnPaint() {
     CRect client;
     GetClientRect(client);
     CQVMemoDC dc(&paint, client);
-    Draw(dc, client);
+    QV_PaintTracker(dc, client,
+                    {View(), m_rcTrack, m_hPicture, m_nOption, m_nTextStyle, ::GetFocus() == m_hWnd,
+                     QV_GetWindowDpi(m_hWnd)});
 }
 
 BOOL CQVRectTracker::OnEraseBkgnd(CDC*) {
@@ -206,11 +208,8 @@ void CQVRectTracker::OnMouseMove(UINT nFlags, CPoint point) {
     }
     // From the drag's start, so that roundings do not add up and the range's edge does not lose the pointer.
     const QVTrackerView view = View();
-    const LONGLONG rangeWidth = LONGLONG{m_rcRange.right} - m_rcRange.left;
-    const LONGLONG rangeHeight = LONGLONG{m_rcRange.bottom} - m_rcRange.top;
-    MoveByUser(m_rcDragStart.left + ScaleDistance(point.x - m_ptDragStart.x, rangeWidth, view.rcView.Width()),
-               m_rcDragStart.top +
-                   ScaleDistance(point.y - m_ptDragStart.y, rangeHeight, view.rcView.Height()));
+    MoveByUser(m_rcDragStart.left + view.ToRangeWidth(point.x - m_ptDragStart.x),
+               m_rcDragStart.top + view.ToRangeHeight(point.y - m_ptDragStart.y));
 }
 
 void CQVRectTracker::OnLButtonUp(UINT, CPoint) {

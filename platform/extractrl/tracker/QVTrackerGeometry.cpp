@@ -24,6 +24,13 @@ LONG Map(LONG value, LONG from, LONGLONG fromSize, LONG to, LONGLONG toSize) {
         std::llround(std::clamp(mapped, static_cast<double>(LONG_MIN), static_cast<double>(LONG_MAX))));
 }
 
+LONGLONG Distance(int pixels, LONGLONG rangeSize, LONGLONG viewSize) {
+    if (viewSize <= 0)
+        return 0;
+    return std::llround(static_cast<double>(pixels) * static_cast<double>(rangeSize) /
+                        static_cast<double>(viewSize));
+}
+
 // The start of a span of `size` kept inside (or, when it is longer, over) the range [lo, hi).
 LONGLONG KeepSpan(LONGLONG start, LONGLONG size, LONGLONG lo, LONGLONG hi) {
     const LONGLONG last = hi - size;
@@ -49,13 +56,12 @@ CRect QVTrackerView::ToClient(const CRect& rect) const {
                  Map(rect.bottom, rcRange.top, height, rcView.top, viewHeight));
 }
 
-CPoint QVTrackerView::ToRange(CPoint client) const {
-    if (IsEmpty())
-        return CPoint(rcRange.left, rcRange.top);
-    return CPoint(Map(client.x, rcView.left, Extent(rcView.left, rcView.right), rcRange.left,
-                      Extent(rcRange.left, rcRange.right)),
-                  Map(client.y, rcView.top, Extent(rcView.top, rcView.bottom), rcRange.top,
-                      Extent(rcRange.top, rcRange.bottom)));
+LONGLONG QVTrackerView::ToRangeWidth(int pixels) const {
+    return Distance(pixels, Extent(rcRange.left, rcRange.right), Extent(rcView.left, rcView.right));
+}
+
+LONGLONG QVTrackerView::ToRangeHeight(int pixels) const {
+    return Distance(pixels, Extent(rcRange.top, rcRange.bottom), Extent(rcView.top, rcView.bottom));
 }
 
 QVTrackerView QV_GetTrackerView(const CRect& range, const CRect& client, int margin) {

@@ -14,8 +14,9 @@ struct QVTrackerView {
 
     bool IsEmpty() const;
     CRect ToClient(const CRect& rect) const;
-    // The nearest unit of the range; the whole range maps to itself.
-    CPoint ToRange(CPoint client) const;
+    // How far a distance in pixels is, in units of the range, rounded.
+    LONGLONG ToRangeWidth(int pixels) const;
+    LONGLONG ToRangeHeight(int pixels) const;
 };
 
 // An empty or reversed range or client area gives an empty view.

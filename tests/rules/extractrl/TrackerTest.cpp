@@ -22,7 +22,8 @@ TEST(TrackerView, NothingToShow) {
         const QVTrackerView view = QV_GetTrackerView(range, client, 4);
         EXPECT_TRUE(view.IsEmpty());
         EXPECT_EQ(view.ToClient(CRect(0, 0, 5, 5)), CRect(0, 0, 0, 0));
-        EXPECT_EQ(view.ToRange(CPoint(50, 50)), CPoint(range.left, range.top));
+        EXPECT_EQ(view.ToRangeWidth(50), 0);
+        EXPECT_EQ(view.ToRangeHeight(50), 0);
     }
     EXPECT_TRUE(QV_GetTrackerView(CRect(0, 0, 10, 10), CRect(0, 0, 8, 8), 4).IsEmpty());
 }
@@ -34,14 +35,15 @@ TEST(TrackerView, HugeAndFlatRanges) {
     EXPECT_EQ(flat.rcView.Width(), 200);
     const QVTrackerView whole = QV_GetTrackerView(CRect(INT_MIN, INT_MIN, INT_MAX, INT_MAX), client, 0);
     EXPECT_EQ(whole.ToClient(CRect(INT_MIN, INT_MIN, INT_MAX, INT_MAX)), whole.rcView);
-    EXPECT_EQ(whole.ToRange(whole.rcView.TopLeft()), CPoint(INT_MIN, INT_MIN));
+    EXPECT_EQ(whole.ToRangeWidth(-whole.rcView.Width()), -(LONGLONG{INT_MAX} - INT_MIN));
 }
 
 TEST(TrackerView, ThereAndBack) {
     const QVTrackerView view = QV_GetTrackerView(CRect(0, 0, 100, 50), CRect(0, 0, 410, 300), 5);
     for (int x = 0; x <= 100; ++x) {
         const CRect client = view.ToClient(CRect(x, x / 2, x, x / 2));
-        EXPECT_EQ(view.ToRange(client.TopLeft()), CPoint(x, x / 2));
+        EXPECT_EQ(view.ToRangeWidth(client.left - view.rcView.left), x);
+        EXPECT_EQ(view.ToRangeHeight(client.top - view.rcView.top), x / 2);
     }
 }
 

@@ -1,4 +1,5 @@
-// The inside of a level meter: its state, what of it is on the screen, and the shared strip.
+// The face of a level meter: its state, what of it is on the screen, and the strip of pixels it is copied
+// from.
 #pragma once
 
 #include "QVVUTableCtrl.h"
@@ -10,7 +11,7 @@
 
 namespace _qv_extractrl {
 
-class CQVMeterImpl {
+class CQVMeterFace {
   public:
     const QVMeterBallistics& State() const { return m_state; }
 

@@ -1,4 +1,4 @@
-#include "QVMeterImpl.h"
+#include "QVMeterFace.h"
 
 #include <QVSkin.h>
 
@@ -11,12 +11,12 @@ constexpr ULONGLONG kFedLatelyMs = 100;
 
 } // namespace
 
-void CQVMeterImpl::Resize(CSize size) {
+void CQVMeterFace::Resize(CSize size) {
     m_size = size;
     m_strip.reset();
 }
 
-const CQVMeterStrip& CQVMeterImpl::Strip(HWND wnd) {
+const CQVMeterStrip& CQVMeterFace::Strip(HWND wnd) {
     if (!m_strip) {
         m_strip = CQVMeterStrip::Get({m_size.cx, m_size.cy, _qv_commonctrl::QV_GetWindowDpi(wnd),
                                       _qv_commonctrl::QV_GetSkinGeneration()});
@@ -24,18 +24,18 @@ const CQVMeterStrip& CQVMeterImpl::Strip(HWND wnd) {
     return *m_strip;
 }
 
-void CQVMeterImpl::SetLevel(HWND wnd, int level, ULONGLONG nowMs, CQVMeterPainter& painter) {
+void CQVMeterFace::SetLevel(HWND wnd, int level, ULONGLONG nowMs, CQVMeterPainter& painter) {
     m_lastSetMs = nowMs;
     m_state.SetLevel(level, nowMs);
     Show(wnd, painter);
 }
 
-void CQVMeterImpl::Reset(HWND wnd, CQVMeterPainter& painter) {
+void CQVMeterFace::Reset(HWND wnd, CQVMeterPainter& painter) {
     m_state.Reset();
     Show(wnd, painter);
 }
 
-bool CQVMeterImpl::Tick(HWND wnd, ULONGLONG nowMs, CQVMeterPainter& painter) {
+bool CQVMeterFace::Tick(HWND wnd, ULONGLONG nowMs, CQVMeterPainter& painter) {
     if (nowMs - m_lastSetMs >= kFedLatelyMs) {
         m_state.Advance(nowMs);
         Show(wnd, painter);
@@ -43,7 +43,7 @@ bool CQVMeterImpl::Tick(HWND wnd, ULONGLONG nowMs, CQVMeterPainter& painter) {
     return !m_state.IsAtRest();
 }
 
-void CQVMeterImpl::Show(HWND wnd, CQVMeterPainter& painter) {
+void CQVMeterFace::Show(HWND wnd, CQVMeterPainter& painter) {
     if (!wnd || m_size.cx <= 0 || m_size.cy <= 0)
         return;
     const CQVMeterStrip& strip = Strip(wnd);
@@ -54,7 +54,7 @@ void CQVMeterImpl::Show(HWND wnd, CQVMeterPainter& painter) {
         painter.Paint(wnd, strip, changed);
 }
 
-void CQVMeterImpl::Paint(HWND wnd, HDC dc, const RECT& area) {
+void CQVMeterFace::Paint(HWND wnd, HDC dc, const RECT& area) {
     if (m_size.cx <= 0 || m_size.cy <= 0)
         return;
     const CQVMeterStrip& strip = Strip(wnd);
