@@ -18,8 +18,7 @@ constexpr int kImportGapPx = 4;    // between Cancel and the folder import panel
 constexpr int kBelowImportPx = 10; // between the folder import panel and the frame's bottom
 constexpr int kAdvanceRightPx = 4;
 constexpr int kAdvanceBottomPx = 10;
-constexpr int kAdvanceImportDropPx =
-    4; // how far the host's window is cut and lowered beside the import panel
+constexpr int kAdvanceImportDropPx = 4; // how far the host's window is cut and lowered beside the panel
 constexpr int kLeastAdvancedWidthPx = 500;
 constexpr int kLeastAdvancedHeightPx = 400;
 constexpr int kFixedWidthPx = 640;
@@ -29,7 +28,6 @@ constexpr int kPsdRisePx = 7;
 constexpr int kPsdBottomPx = 10;
 
 constexpr DWORD kBothOptions = FDO_KEEPOK | FDO_IMPORTFOLDER;
-constexpr DWORD kSkinnedListVersion = 6;
 
 int Px(int px96, UINT dpi) {
     return _qv_commonctrl::QV_ScaleForDpi(px96, dpi);
@@ -101,10 +99,6 @@ CPoint CentredOnScreen(CSize screen, CSize client) {
 CRect PsdPanelBelow(const CRect& client, int panelHeight, UINT dpi) {
     return CRect(client.left + Px(kPsdSidePx, dpi), client.bottom - Px(kPsdRisePx, dpi),
                  client.right - Px(kPsdSidePx, dpi), client.bottom + panelHeight - Px(kPsdBottomPx, dpi));
-}
-
-bool SkinsShellList(DWORD majorVersion) {
-    return majorVersion >= kSkinnedListVersion;
 }
 
 } // namespace _qv_commonwnd

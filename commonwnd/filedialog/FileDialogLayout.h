@@ -52,7 +52,4 @@ CPoint CentredOnScreen(CSize screen, CSize client);
 // strip's height.
 CRect PsdPanelBelow(const CRect& client, int panelHeight, UINT dpi);
 
-// Whether the shell's list is skinned on this major version of the system.
-bool SkinsShellList(DWORD majorVersion);
-
 } // namespace _qv_commonwnd

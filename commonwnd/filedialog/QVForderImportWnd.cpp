@@ -3,7 +3,6 @@
 #include "QVFileDialog.h"
 
 #include <LWSupportAPI.h>
-#include <QVMemoDC.h>
 #include <QVSkin.h>
 
 namespace _qv_commonwnd {
@@ -20,13 +19,9 @@ constexpr int kButtonHeightPx = 23;
 
 IMPLEMENT_DYNAMIC(CQVForderImportWnd, CWnd)
 
-BEGIN_MESSAGE_MAP(CQVForderImportWnd, CWnd)
+BEGIN_MESSAGE_MAP(CQVForderImportWnd, CQVDialogPanel)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_WM_CTLCOLOR()
-    ON_WM_DESTROY()
     ON_BN_CLICKED(kImportButtonId, &CQVForderImportWnd::OnBnClickedImport)
 END_MESSAGE_MAP()
 
@@ -49,7 +44,7 @@ void CQVForderImportWnd::EnableImport(BOOL bEnable) {
 }
 
 int CQVForderImportWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1)
+    if (CQVDialogPanel::OnCreate(lpCreateStruct) == -1)
         return -1;
     if (m_btnImport.Create(LWLoadString(L"IDS_CAPTURERENDER_IMPORTFOLDER"), WS_CHILD | WS_VISIBLE,
                            CRect(0, 0, 0, 0), this, kImportButtonId)) {
@@ -63,30 +58,10 @@ int CQVForderImportWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 }
 
 void CQVForderImportWnd::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
+    CQVDialogPanel::OnSize(nType, cx, cy);
     const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
     if (m_btnImport.GetSafeHwnd())
         m_btnImport.MoveWindow(0, 0, QV_ScaleForDpi(m_szButton.cx, dpi), QV_ScaleForDpi(m_szButton.cy, dpi));
-}
-
-void CQVForderImportWnd::OnPaint() {
-    CQVPaintMemoDC memory(this, QVCLR_WINDOW);
-}
-
-BOOL CQVForderImportWnd::OnEraseBkgnd(CDC*) {
-    return TRUE;
-}
-
-// What shows round the corners of the controls.
-HBRUSH CQVForderImportWnd::OnCtlColor(CDC* pDC, CWnd*, UINT) {
-    if (pDC)
-        pDC->SetBkMode(TRANSPARENT);
-    return QV_GetSysBrush(QVBRUSH_WINDOW);
-}
-
-void CQVForderImportWnd::OnDestroy() {
-    DetachSkin();
-    CWnd::OnDestroy();
 }
 
 void CQVForderImportWnd::OnBnClickedImport() {

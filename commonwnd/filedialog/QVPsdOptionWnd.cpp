@@ -2,7 +2,6 @@
 
 #include <LWSupportAPI.h>
 #include <QVCommonClass.h>
-#include <QVMemoDC.h>
 #include <QVSkin.h>
 
 #include <algorithm>
@@ -47,17 +46,39 @@ void FitClosedHeight(CComboBox& combo, int heightPx) {
 
 } // namespace
 
+// The two rows of controls, and what is chosen in them.
+class CQVPsdOptionWnd::CRows {
+  public:
+    explicit CRows(CQVPsdOptionWnd& panel) : m_panel(panel), m_dpi(QV_GetWindowDpi(panel.GetSafeHwnd())) {}
+
+    // Makes the controls unless they are there. Without a window there are none.
+    void Ensure();
+    void Place();
+    void Enable();
+
+    void ListLayers();
+    void KeepChecks();
+    bool IsLayerImportChosen() const;
+
+  private:
+    void Make(CQVStatic& label, int labelId, LPCWSTR labelKey, CQVComboBox& combo, int comboId);
+    void PlaceRow(CWnd& label, CQVComboBox& combo, int topPx);
+    int Px(int px96) const { return QV_ScaleForDpi(px96, m_dpi); }
+
+    CQVPsdOptionWnd& m_panel;
+    UINT m_dpi;
+};
+
 IMPLEMENT_DYNAMIC(CQVPsdOptionWnd, CWnd)
 
-BEGIN_MESSAGE_MAP(CQVPsdOptionWnd, CWnd)
+BEGIN_MESSAGE_MAP(CQVPsdOptionWnd, CQVDialogPanel)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_WM_CTLCOLOR()
     ON_WM_DESTROY()
     ON_MESSAGE(WM_QV_CHECKCOMBO_CLOSEUP, &CQVPsdOptionWnd::OnCloseUpMsg)
 END_MESSAGE_MAP()
+
+// ---- Construction.
 
 CQVPsdOptionWnd::CQVPsdOptionWnd()
     : m_bEnableImportType(TRUE), m_bEnableLayer(TRUE), m_bCompileImport(TRUE), m_nRowGap(10), m_nLeft(99),
@@ -71,164 +92,160 @@ DWORD CQVPsdOptionWnd::GetMinHeight() {
     return static_cast<DWORD>(heightPx);
 }
 
-int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1)
-        return -1;
-    m_bCompileImport = TRUE;
-    AttachSkin(this);
-    if (!m_bDelayControls)
-        EnsureControls();
-    return 0;
-}
-
 void CQVPsdOptionWnd::DelayControls() {
     m_bDelayControls = TRUE;
 }
 
-void CQVPsdOptionWnd::EnsureControls() {
-    if (!GetSafeHwnd() || m_stcImportType.GetSafeHwnd())
-        return;
-    ModifyStyleEx(0, WS_EX_CONTROLPARENT); // the tab key goes through the dialog's panels
-    CreateRow(m_stcImportType, kImportTypeLabelId, L"IDS_FILEDLG_IMPORTTYPE", m_cmbImportType,
-              kImportTypeComboId);
-    m_cmbImportType.InsertString(kRenderImport, LWLoadString(L"IDS_FILEDLG_RENDERIMP"));
-    m_cmbImportType.InsertString(kLayerImport, LWLoadString(L"IDS_FILEDLG_LAYERIMP"));
-    m_cmbImportType.SetCurSel(kRenderImport);
-    CreateRow(m_stcLayer, kLayerLabelId, L"IDS_FILEDLG_LAYER", m_cmbLayer, kLayerComboId);
-    m_cmbLayer.EnableWindow(FALSE);
-    // Behind the controls: they have taken a new skin's font when the rows are placed anew.
-    DetachSkin();
+int CQVPsdOptionWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CQVDialogPanel::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    m_bCompileImport = TRUE;
     AttachSkin(this);
+    if (!m_bDelayControls)
+        CRows(*this).Ensure();
+    return 0;
 }
 
-BOOL CQVPsdOptionWnd::CreateRow(CQVStatic& label, int labelId, LPCWSTR labelKey, CQVComboBox& combo,
-                                int comboId) {
-    const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
-    if (!label.Create(LWLoadString(labelKey), kLabelStyle, CRect(0, 0, 0, 0), this, labelId))
-        return FALSE;
-    label.SetFont(QV_GetSysFont(QVFONT_UI, dpi));
+void CQVPsdOptionWnd::CRows::Ensure() {
+    CQVPsdOptionWnd& p = m_panel;
+    if (!p.GetSafeHwnd() || p.m_stcImportType.GetSafeHwnd())
+        return;
+    p.ModifyStyleEx(0, WS_EX_CONTROLPARENT); // the tab key goes through the dialog's panels
+    Make(p.m_stcImportType, kImportTypeLabelId, L"IDS_FILEDLG_IMPORTTYPE", p.m_cmbImportType,
+         kImportTypeComboId);
+    p.m_cmbImportType.InsertString(kRenderImport, LWLoadString(L"IDS_FILEDLG_RENDERIMP"));
+    p.m_cmbImportType.InsertString(kLayerImport, LWLoadString(L"IDS_FILEDLG_LAYERIMP"));
+    p.m_cmbImportType.SetCurSel(kRenderImport);
+    Make(p.m_stcLayer, kLayerLabelId, L"IDS_FILEDLG_LAYER", p.m_cmbLayer, kLayerComboId);
+    p.m_cmbLayer.EnableWindow(FALSE);
+    // Behind the controls: they have taken a new skin's font when the rows are placed anew.
+    p.DetachSkin();
+    p.AttachSkin(&p);
+}
+
+void CQVPsdOptionWnd::CRows::Make(CQVStatic& label, int labelId, LPCWSTR labelKey, CQVComboBox& combo,
+                                  int comboId) {
+    CFont* const font = QV_GetSysFont(QVFONT_UI, m_dpi);
+    if (!label.Create(LWLoadString(labelKey), kLabelStyle, CRect(), &m_panel, labelId))
+        return;
+    label.SetFont(font);
     label.SetBkColorIndex(QVCLR_WINDOW);
-    const CRect dropped(0, 0, 0, QV_ScaleForDpi(m_nDropHeight, dpi));
-    if (!combo.Create(kComboStyle, dropped, this, comboId))
-        return FALSE;
+    if (!combo.Create(kComboStyle, CRect(0, 0, 0, Px(m_panel.m_nDropHeight)), &m_panel, comboId))
+        return;
     combo.ModifyStyle(0, WS_TABSTOP);
-    combo.SetFont(QV_GetSysFont(QVFONT_UI, dpi));
-    combo.SetItemHeight(0, static_cast<UINT>(QV_ScaleForDpi(kListRowHeightPx, dpi)));
-    return TRUE;
+    combo.SetFont(font);
+    combo.SetItemHeight(0, static_cast<UINT>(Px(kListRowHeightPx)));
 }
 
-void CQVPsdOptionWnd::PlaceRow(CWnd& label, CQVComboBox& combo, int topPx) {
-    const UINT dpi = QV_GetWindowDpi(GetSafeHwnd());
-    const int comboLeft = m_nLeft + m_nLabelWidth + kLabelToComboGapPx;
-    const int top = QV_ScaleForDpi(topPx, dpi);
+void CQVPsdOptionWnd::CRows::Place() {
+    PlaceRow(m_panel.m_stcImportType, m_panel.m_cmbImportType, 0);
+    PlaceRow(m_panel.m_stcLayer, m_panel.m_cmbLayer, m_panel.m_nRowHeight + m_panel.m_nRowGap);
+}
+
+void CQVPsdOptionWnd::CRows::PlaceRow(CWnd& label, CQVComboBox& combo, int topPx) {
+    const CQVPsdOptionWnd& p = m_panel;
+    const int comboLeft = p.m_nLeft + p.m_nLabelWidth + kLabelToComboGapPx;
     if (label.GetSafeHwnd())
-        label.MoveWindow(QV_ScaleForDpi(m_nLeft, dpi), top, QV_ScaleForDpi(m_nLabelWidth, dpi),
-                         QV_ScaleForDpi(m_nRowHeight, dpi));
+        label.MoveWindow(Px(p.m_nLeft), Px(topPx), Px(p.m_nLabelWidth), Px(p.m_nRowHeight));
     if (!combo.GetSafeHwnd())
         return;
     // A combo box takes the height of its dropped list.
-    combo.MoveWindow(QV_ScaleForDpi(comboLeft, dpi), top, QV_ScaleForDpi(m_nComboWidth, dpi),
-                     QV_ScaleForDpi(m_nRowHeight + m_nDropHeight, dpi));
-    FitClosedHeight(combo, QV_ScaleForDpi(m_nRowHeight, dpi));
-}
-
-void CQVPsdOptionWnd::PlaceRows() {
-    PlaceRow(m_stcImportType, m_cmbImportType, 0);
-    PlaceRow(m_stcLayer, m_cmbLayer, m_nRowHeight + m_nRowGap);
+    combo.MoveWindow(Px(comboLeft), Px(topPx), Px(p.m_nComboWidth), Px(p.m_nRowHeight + p.m_nDropHeight));
+    FitClosedHeight(combo, Px(p.m_nRowHeight));
 }
 
 void CQVPsdOptionWnd::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
+    CQVDialogPanel::OnSize(nType, cx, cy);
+    CRows rows(*this);
     if (cx > 0 || cy > 0) { // most dialogs never show the panel: nothing is placed before
-        EnsureControls();
-        PlaceRows();
+        rows.Ensure();
+        rows.Place();
     }
-    EnableControls();
+    rows.Enable();
 }
 
 void CQVPsdOptionWnd::OnSkinChange(UINT reason, HWND wnd) {
-    CQVBaseCtrl::OnSkinChange(reason, wnd);
-    PlaceRows();
+    CQVDialogPanel::OnSkinChange(reason, wnd);
+    CRows(*this).Place();
 }
 
-BOOL CQVPsdOptionWnd::IsLayerImportChosen() const {
-    return m_cmbImportType.GetSafeHwnd() && m_cmbImportType.GetCurSel() == kLayerImport;
-}
-
-void CQVPsdOptionWnd::EnableControls() {
-    if (m_cmbImportType.GetSafeHwnd())
-        m_cmbImportType.EnableWindow(m_bEnableImportType);
-    if (m_cmbLayer.GetSafeHwnd())
-        m_cmbLayer.EnableWindow(m_bEnableLayer && IsLayerImportChosen());
-}
-
-BOOL CQVPsdOptionWnd::OnEraseBkgnd(CDC*) {
-    return TRUE;
-}
-
-// What shows round the corners of the controls.
-HBRUSH CQVPsdOptionWnd::OnCtlColor(CDC* pDC, CWnd*, UINT) {
-    if (pDC)
-        pDC->SetBkMode(TRANSPARENT);
-    return QV_GetSysBrush(QVBRUSH_WINDOW);
-}
-
-void CQVPsdOptionWnd::OnPaint() {
-    CQVPaintMemoDC memory(this, QVCLR_WINDOW);
-}
-
-// The names outlive the window: the host asks for them when the dialog is gone.
-void CQVPsdOptionWnd::OnDestroy() {
-    if (m_cmbLayer.GetSafeHwnd() && !m_bCompileImport)
-        KeepChecks();
-    DetachSkin();
-    CWnd::OnDestroy();
-}
+// ---- A document.
 
 // By value: the exported signature is kept.
 void CQVPsdOptionWnd::ReadPsdFile(CString strPath) { // NOLINT(performance-unnecessary-value-param)
-    EnsureControls();
+    CRows rows(*this);
+    rows.Ensure();
     m_arrLayerName.RemoveAll();
     if (!_qv_commonclass::CQVVideoPlay::GetPsdLayerInfo(strPath, m_arrLayerName) || !m_cmbLayer.GetSafeHwnd())
         return;
-    FillLayerList();
-    KeepChecks();
+    rows.ListLayers();
+    rows.KeepChecks();
 }
 
 // The top layer, which the document stores last, stands first and is the current entry. Entries are appended: putting
 // each one before all others takes seconds for a document of tens of thousands of layers.
-void CQVPsdOptionWnd::FillLayerList() {
-    m_cmbLayer.SendMessage(WM_CLEAR);
-    m_cmbLayer.SetRedraw(FALSE);
-    m_cmbLayer.ResetContent();
-    const INT_PTR count = m_arrLayerName.GetSize();
-    for (INT_PTR i = count - 1; i >= 0; --i)
-        m_cmbLayer.AddString(m_arrLayerName.GetAt(i));
-    m_cmbLayer.CheckAll(TRUE);
-    if (count > 0)
-        m_cmbLayer.SetCurSel(0);
-    m_cmbLayer.SetRedraw(TRUE);
-    m_cmbLayer.Invalidate(FALSE);
+void CQVPsdOptionWnd::CRows::ListLayers() {
+    CQVCheckComboBox& list = m_panel.m_cmbLayer;
+    const CStringArray& names = m_panel.m_arrLayerName;
+    list.SendMessage(WM_CLEAR);
+    list.SetRedraw(FALSE);
+    list.ResetContent();
+    for (INT_PTR i = names.GetSize() - 1; i >= 0; --i)
+        list.AddString(names.GetAt(i));
+    list.CheckAll(TRUE);
+    if (names.GetSize() > 0)
+        list.SetCurSel(0);
+    list.SetRedraw(TRUE);
+    list.Invalidate(FALSE);
 }
 
-void CQVPsdOptionWnd::KeepChecks() {
-    const int count = m_cmbLayer.GetCount();
-    m_vecLayerCheck.clear();
+// ---- Choices of the user and of the host.
+
+void CQVPsdOptionWnd::CRows::KeepChecks() {
+    const int count = m_panel.m_cmbLayer.GetCount();
+    m_panel.m_vecLayerCheck.clear();
     for (int i = 0; i < count; ++i)
-        m_vecLayerCheck.push_back(m_cmbLayer.GetCheck(i) ? 1 : 0);
+        m_panel.m_vecLayerCheck.push_back(m_panel.m_cmbLayer.GetCheck(i) ? 1 : 0);
+}
+
+bool CQVPsdOptionWnd::CRows::IsLayerImportChosen() const {
+    return m_panel.m_cmbImportType.GetSafeHwnd() && m_panel.m_cmbImportType.GetCurSel() == kLayerImport;
+}
+
+void CQVPsdOptionWnd::CRows::Enable() {
+    if (m_panel.m_cmbImportType.GetSafeHwnd())
+        m_panel.m_cmbImportType.EnableWindow(m_panel.m_bEnableImportType);
+    if (m_panel.m_cmbLayer.GetSafeHwnd())
+        m_panel.m_cmbLayer.EnableWindow(m_panel.m_bEnableLayer && IsLayerImportChosen());
 }
 
 void CQVPsdOptionWnd::EnableLayerInfo(BOOL bEnable) {
     m_bEnableLayer = bEnable;
-    if (m_cmbLayer.GetSafeHwnd())
-        m_cmbLayer.EnableWindow(bEnable && IsLayerImportChosen());
+    CRows(*this).Enable();
 }
 
 void CQVPsdOptionWnd::EnableCompileImportType(BOOL bEnable) {
     m_bEnableImportType = bEnable;
-    if (m_cmbImportType.GetSafeHwnd())
-        m_cmbImportType.EnableWindow(bEnable);
+    CRows(*this).Enable();
 }
+
+BOOL CQVPsdOptionWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) == kImportTypeComboId && HIWORD(wParam) == CBN_SELCHANGE) {
+        CRows rows(*this);
+        m_bCompileImport = !rows.IsLayerImportChosen();
+        if (!m_bCompileImport)
+            rows.KeepChecks();
+        rows.Enable();
+    }
+    return CQVDialogPanel::OnCommand(wParam, lParam);
+}
+
+LRESULT CQVPsdOptionWnd::OnCloseUpMsg(WPARAM, LPARAM) {
+    CRows(*this).KeepChecks();
+    return 0;
+}
+
+// ---- Results.
 
 BOOL CQVPsdOptionWnd::IsCompileImportType() {
     return m_bCompileImport;
@@ -244,23 +261,13 @@ void CQVPsdOptionWnd::GetImportLayerInfo(std::vector<int>& v) {
         v.push_back(m_bCompileImport ? 1 : *check);
 }
 
-LRESULT CQVPsdOptionWnd::OnCloseUpMsg(WPARAM, LPARAM) {
-    KeepChecks();
-    return 0;
-}
+// ---- Release.
 
-BOOL CQVPsdOptionWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    if (LOWORD(wParam) == kImportTypeComboId && HIWORD(wParam) == CBN_SELCHANGE)
-        OnImportTypeChanged();
-    return CWnd::OnCommand(wParam, lParam);
-}
-
-void CQVPsdOptionWnd::OnImportTypeChanged() {
-    const bool byLayers = IsLayerImportChosen();
-    m_bCompileImport = !byLayers;
-    if (byLayers)
-        KeepChecks();
-    m_cmbLayer.EnableWindow(byLayers && m_bEnableLayer);
+// The names outlive the window: the host asks for them when the dialog is gone.
+void CQVPsdOptionWnd::OnDestroy() {
+    if (m_cmbLayer.GetSafeHwnd() && !m_bCompileImport)
+        CRows(*this).KeepChecks();
+    CQVDialogPanel::OnDestroy();
 }
 
 } // namespace _qv_commonwnd

@@ -1,20 +1,21 @@
-// The frame of the system's file dialog: ground, painted caption with its close button, two-colour frame.
+// The frame of the system's file dialog.
 #pragma once
 
-#include <QVBaseCtrl.h>
-#include <QVCaptionBand.h>
+#include "support/SystemDialogFrame.h"
 
 #include <functional>
 
 namespace _qv_commonwnd {
 
-// Takes the system dialog's frame over once its styles leave it no frame of its own.
-class CQVWndEx : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
+// Tells the file dialog of what happens to the frame, and keeps its controls in the skin's colours.
+class CQVWndEx : public CSystemDialogFrame {
     DECLARE_DYNAMIC(CQVWndEx)
 
   public:
     CQVWndEx();
-    ~CQVWndEx() override;
+
+    // Takes the frame over; its styles leave it no frame of its own. FALSE when it cannot be had.
+    BOOL TakeOver(HWND frame);
 
     // Called when the frame is about to be destroyed, while its children still live.
     void SetEndAction(std::function<void()> action) { m_endAction = std::move(action); }
@@ -22,23 +23,10 @@ class CQVWndEx : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     // Called with each shell view that the frame gets, before it is shown.
     void SetNewViewAction(std::function<void(HWND view)> action) { m_newViewAction = std::move(action); }
 
-    void OnSkinChange(UINT reason, HWND wnd) override;
-
   protected:
-    void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
-    afx_msg BOOL OnNcActivate(BOOL bActive);
-    afx_msg void OnEnable(BOOL bEnable);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnMouseLeave();
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg void OnDestroy();
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
@@ -47,12 +35,6 @@ class CQVWndEx : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     DECLARE_MESSAGE_MAP()
 
   private:
-    CRect Area() const;
-    UINT Dpi() const;
-    void RepaintClose();
-    void RepaintCaption();
-
-    _qv_commonctrl::CQVCaptionBand m_band;
     std::function<void()> m_endAction;
     std::function<void(HWND view)> m_newViewAction;
 };

@@ -1,12 +1,14 @@
 #include "ShellView.h"
 
-#include "filedialog/FileDialogIds.h"
+#include <iterator>
 
 namespace _qv_commonwnd {
 
 IMPLEMENT_DYNAMIC(CShellView, CWnd)
 
 namespace {
+
+constexpr wchar_t kShellViewClass[] = L"SHELLDLL_DefView";
 
 // Messages that tell a view of changed files, or at which it changes them.
 bool MayChangeFiles(UINT message) {
@@ -28,6 +30,20 @@ bool ChangesItems(UINT code) {
 }
 
 } // namespace
+
+HWND ShellViewOf(HWND frame) {
+    return frame ? ::FindWindowExW(frame, nullptr, kShellViewClass, nullptr) : nullptr;
+}
+
+HWND ShellListIn(HWND view) {
+    return view ? ::GetDlgItem(view, kShellListId) : nullptr;
+}
+
+bool IsShellView(HWND wnd) {
+    wchar_t name[std::size(kShellViewClass) + 1] = L"";
+    return ::GetClassNameW(wnd, name, static_cast<int>(std::size(name))) &&
+           ::lstrcmpiW(name, kShellViewClass) == 0;
+}
 
 CShellView::CShellView() = default;
 

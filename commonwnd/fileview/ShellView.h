@@ -7,6 +7,13 @@
 
 namespace _qv_commonwnd {
 
+constexpr int kShellListId = 1; // of the list in the view
+
+// The view in the file dialog's frame and its list; null when it is not there (yet), and for null.
+HWND ShellViewOf(HWND frame);
+HWND ShellListIn(HWND view);
+bool IsShellView(HWND wnd);
+
 // Sends the list's custom draw back to the list, and spares the view questions that it has answered already.
 class CShellView : public CWnd {
     DECLARE_DYNAMIC(CShellView)

@@ -1,6 +1,7 @@
 #include "QVPathBrowseWnd.h"
 
 #include "PathBrowseLayout.h"
+#include "support/WindowText.h"
 
 #include <LWSupportAPI.h>
 
@@ -20,7 +21,7 @@ constexpr int kTitleId = 14146;
 constexpr int kNewFolderId = 14150;
 constexpr int kStatusId = 14151;
 
-constexpr wchar_t kCloseImage[] = L"\\CommonCtrl\\Frame\\new\\close.png";
+constexpr int kTreeFramePx = 1; // at 96 DPI
 
 struct SystemTree {
     HWND host;
@@ -51,16 +52,20 @@ void GiveBack(CWnd& control) {
 
 } // namespace
 
+BEGIN_MESSAGE_MAP(CQVPathBrowseWnd, CSystemDialogFrame)
+    ON_WM_SIZE()
+    ON_WM_CTLCOLOR()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
 CQVPathBrowseWnd::CQVPathBrowseWnd()
-    : m_band(PathBrowseCaption()), m_pTreeView(std::make_unique<CQVTreeView>()) {
-    LoadCloseImage();
+    : CSystemDialogFrame(PathBrowseCaption()), m_pTreeView(std::make_unique<CQVTreeView>()) {
 }
 
 CQVPathBrowseWnd::~CQVPathBrowseWnd() {
     GiveControlsBack();
     if (m_hWnd)
         UnsubclassWindow();
-    QV_ReleaseCommonRes(m_pCloseImage);
 }
 
 void CQVPathBrowseWnd::Drop() {
@@ -68,27 +73,11 @@ void CQVPathBrowseWnd::Drop() {
         delete this;
 }
 
-void CQVPathBrowseWnd::LoadCloseImage() {
-    QV_ReleaseCommonRes(m_pCloseImage);
-    m_pCloseImage = QV_LoadImageEx(QV_GetSkinPath() + kCloseImage, QVIMAGE_STATES, 0, 0);
-}
-
-UINT CQVPathBrowseWnd::Dpi() const {
-    return QV_GetWindowDpi(m_hWnd);
-}
-
-CRect CQVPathBrowseWnd::Client() const {
-    CRect client;
-    GetClientRect(&client);
-    return client;
-}
-
 void CQVPathBrowseWnd::TakeOver(HWND dialog) {
     if (!SubclassWindow(dialog))
         return;
-    AttachSkin(this);
-    m_bCloseHot = 0;
-    StripFrame();
+    StripFrame(WS_THICKFRAME);
+    ModifyStyle(0, WS_CLIPCHILDREN); // what is painted here must not show through the controls
     SetWindowText(LWLoadString(L"IDS_COMMON_BROWSE_FOLDERS"));
     TakeControls();
     TakeTree();
@@ -97,16 +86,6 @@ void CQVPathBrowseWnd::TakeOver(HWND dialog) {
     SetWindowPos(nullptr, 0, 0, size.cx, size.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     LayOut(); // the dialog may have had this size before
-}
-
-void CQVPathBrowseWnd::StripFrame() {
-    constexpr DWORD kStyles[] = {WS_CAPTION,      WS_THICKFRAME, WS_SYSMENU,
-                                 WS_CLIPSIBLINGS, DS_3DLOOK,     DS_MODALFRAME};
-    for (const DWORD style : kStyles)
-        ModifyStyle(style, 0);
-    for (const DWORD style : {DWORD(WS_EX_DLGMODALFRAME), DWORD(WS_EX_WINDOWEDGE)})
-        ModifyStyleEx(style, 0);
-    ModifyStyle(0, WS_CLIPCHILDREN); // what is painted here must not show through the controls
 }
 
 void CQVPathBrowseWnd::TakeControls() {
@@ -164,6 +143,53 @@ void CQVPathBrowseWnd::LayOut() {
     Invalidate(FALSE);
 }
 
+// The system's own arrangement comes first, ours has the last word.
+void CQVPathBrowseWnd::OnSize(UINT type, int cx, int cy) {
+    CSystemDialogFrame::OnSize(type, cx, cy);
+    if (type == SIZE_MINIMIZED)
+        return;
+    CRect window;
+    GetWindowRect(&window);
+    const CSize size = PathBrowseSize(Dpi());
+    if (window.Size() != size)
+        ResizeInPlace(*this, size);
+    LayOut();
+}
+
+void CQVPathBrowseWnd::PaintMore(CDC& dc) {
+    if (!m_hTreeHost)
+        return;
+    CRect tree;
+    ::GetWindowRect(m_hTreeHost, &tree);
+    ScreenToClient(&tree);
+    CBrush frame(QV_GetSysColor(QVCLR_TREE_FRAME));
+    for (int i = 0; i < QV_ScaleForDpi(kTreeFramePx, Dpi()); ++i) {
+        tree.InflateRect(1, 1);
+        dc.FrameRect(tree, &frame);
+    }
+}
+
+HBRUSH CQVPathBrowseWnd::OnCtlColor(CDC* dc, CWnd*, UINT) {
+    if (dc) {
+        dc->SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));
+        dc->SetBkColor(QV_GetSysColor(QVCLR_WINDOW));
+    }
+    return QV_GetSysBrush(QVBRUSH_WINDOW);
+}
+
+void CQVPathBrowseWnd::OnSkinChange(UINT reason, HWND wnd) {
+    ApplyFonts();
+    m_pTreeView->ApplySkin();
+    CSystemDialogFrame::OnSkinChange(reason, wnd);
+}
+
+// The system destroys its dialog: no object may keep a window that is not its own.
+void CQVPathBrowseWnd::OnDestroy() {
+    GiveControlsBack();
+    DetachSkin();
+    CSystemDialogFrame::OnDestroy();
+}
+
 void CQVPathBrowseWnd::GiveControlsBack() {
     m_pTreeView->GiveBack();
     GiveBack(m_btnOk);
@@ -171,19 +197,6 @@ void CQVPathBrowseWnd::GiveControlsBack() {
     GiveBack(m_btnNewFolder);
     GiveBack(m_stcTitle);
     m_hTreeHost = nullptr;
-}
-
-void CQVPathBrowseWnd::OnSkinChange(UINT reason, HWND wnd) {
-    LoadCloseImage();
-    ApplyFonts();
-    m_pTreeView->ApplySkin();
-    CQVBaseCtrl::OnSkinChange(reason, wnd);
-}
-
-void CQVPathBrowseWnd::OnDestroy() {
-    GiveControlsBack();
-    DetachSkin();
-    CWnd::OnDestroy();
 }
 
 } // namespace _qv_commonwnd

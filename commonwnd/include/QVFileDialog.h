@@ -28,13 +28,12 @@ class CQVWndEx;
 class CToolBarEx;
 class CQVComboBoxSt;
 class CQVListView;
-class CFileDialogParts;
 
 // The system's hook-style file dialog in skinned form, with a panel for Photoshop layers, an optional button
 // that imports a whole folder and an optional window of the host docked into it.
 //
-// Order of calls: construct; SetAdvanceWnd, SetPreviewMode, EnableLayerInfo(2), EnableCompileImportType as
-// wanted; DoModal; on IDOK GetSelTpye, then for eSelFile the paths and layer choices, for eSelForder
+// Order of calls: construct; SetAdvanceWnd, SetPreviewMode, EnableLayerInfo(LAYERINFO_ALLOWPANEL),
+// EnableCompileImportType as wanted; DoModal; on IDOK GetSelTpye, then for eSelFile the paths and layer choices, for eSelForder
 // GetSelForderPath and GetSelFileFormat. What the getters answer before DoModal has returned IDOK once is of
 // no use.
 //
@@ -103,7 +102,8 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     BOOL IsCompileImportType();
     void GetImportLayerName(CStringArray& arr);
     void GetImportLayerInfo(std::vector<int>& v);
-    // 2: the panel may appear for ".psd" files. Any other value goes to the panel's EnableLayerInfo.
+    // LAYERINFO_ALLOWPANEL: the panel may appear for ".psd" files. Any other value goes to the panel's
+    // EnableLayerInfo.
     void EnableLayerInfo(int n);
 
     // A folder is to be imported: ends the dialog with IDOK and answers 0. Answers 1, and nothing happens,
@@ -170,48 +170,8 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     };
 
   private:
-    bool ChangesNames() const; // a save dialog without raw names
-    void UseMultiSelectBuffer();
-    void ParseFilterPatterns();
-    std::vector<std::wstring> FilterPatternList() const;
-
-    HWND Frame() const; // the system dialog; null while none runs
-    UINT Dpi() const;
-    CRect FrameClient() const;
-    void TakeFrame();
-    void TakeControls();
-    void CreatePanels();
-    void DockAdvanceWnd();
-    void PlaceDockedWnd();
-    int ImportPanelBottom() const;
-    void FitFrame();
-    void ReleaseWindows();
-    void MoveChild(HWND child);
-    void PlaceMoved(HWND child, const CRect& place);
-    void MoveOpenButton();
-    void MoveButtonsBeside();
-    void MoveTopControls();
-
-    void OnDialogInitDone();
-    HWND ShownList() const;
-    void OnSelectionChange();
-    void OnListSelection();
-    void TakeNewFolder();
-    void TakeNewView(HWND view);
-    void TellTypeChange();
-    void OnNothingSelected();
-    void OnOneSelected(HWND list);
-    void OnSeveralSelected(HWND list, int count);
-    void OnFileSelected(const CString& path);
-    void OnFolderSelected(const CString& path, CString name, HWND list);
-    void ForgetSelection();
-    void SkinShellView(HWND view, HWND list);
-    void ReleaseShellList();
-    bool HasAdvanceWnd() const;
-    void TellAdvanceWnd(WPARAM what, LPARAM detail) const;
-
-    std::unique_ptr<wchar_t[]> m_pMultiSelectBuffer;
-    std::unique_ptr<CFileDialogParts> m_pParts;
+    class CRun;
+    std::unique_ptr<CRun> m_pRun;
 };
 
 } // namespace _qv_commonwnd

@@ -1,17 +1,17 @@
 // QVForderImportWnd.h: the small panel of the file dialog that carries the import-folder button.
 #pragma once
 
+#include "QVDialogPanel.h"
 #include "QVFileDialogDefs.h"
 
-#include <QVBaseCtrl.h>
 #include <QVButton.h>
 
 namespace _qv_commonwnd {
 
 class CQVFileDialog;
 
-// A child window; the file dialog creates it. It repaints itself when the skin changes.
-class QVCOMMONWND_API CQVForderImportWnd : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
+// The file dialog creates it.
+class QVCOMMONWND_API CQVForderImportWnd : public CQVDialogPanel {
     DECLARE_DYNAMIC(CQVForderImportWnd)
 
   public:
@@ -30,10 +30,6 @@ class QVCOMMONWND_API CQVForderImportWnd : public CWnd, public _qv_commonctrl::C
   protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
-    afx_msg void OnDestroy();
     afx_msg void OnBnClickedImport();
     DECLARE_MESSAGE_MAP()
 

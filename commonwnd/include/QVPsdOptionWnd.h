@@ -1,9 +1,9 @@
 // QVPsdOptionWnd.h: the strip below the file dialog that says how a Photoshop document is imported.
 #pragma once
 
+#include "QVDialogPanel.h"
 #include "QVFileDialogDefs.h"
 
-#include <QVBaseCtrl.h>
 #include <QVComboBox.h>
 #include <QVStatic.h>
 
@@ -11,17 +11,17 @@
 
 namespace _qv_commonwnd {
 
-// Two rows: the kind of import (render as one picture, or by layers) and a check-list of the layers. A child
-// window; the file dialog creates it hidden and shows it for a ".psd" file.
-class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
+// Two rows: the kind of import (render as one picture, or by layers) and a check-list of the layers. The file dialog
+// creates it hidden and shows it for a ".psd" file.
+class QVCOMMONWND_API CQVPsdOptionWnd : public CQVDialogPanel {
     DECLARE_DYNAMIC(CQVPsdOptionWnd)
 
   public:
     CQVPsdOptionWnd();
     ~CQVPsdOptionWnd() override;
 
-    // Before the window is created, for an owner that may never show it: the controls are made when they are needed
-    // first, that is when a document is read or the window gets a size.
+    // Before the window is created, for an owner that may never show it: the controls are made when they are
+    // needed first, that is when a document is read or the window gets a size.
     void DelayControls();
 
     // Reads a document's layers into the check-list, all of them checked, the top layer first. A document
@@ -53,9 +53,6 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVB
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDestroy();
     afx_msg LRESULT OnCloseUpMsg(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
@@ -77,16 +74,7 @@ class QVCOMMONWND_API CQVPsdOptionWnd : public CWnd, public _qv_commonctrl::CQVB
     int m_nDropHeight;
 
   private:
-    void EnsureControls();
-    BOOL CreateRow(_qv_commonctrl::CQVStatic& label, int labelId, LPCWSTR labelKey,
-                   _qv_commonctrl::CQVComboBox& combo, int comboId);
-    void PlaceRow(CWnd& label, _qv_commonctrl::CQVComboBox& combo, int topPx);
-    void PlaceRows();
-    void FillLayerList();
-    BOOL IsLayerImportChosen() const;
-    void EnableControls();
-    void KeepChecks();
-    void OnImportTypeChanged();
+    class CRows;
 
     BOOL m_bDelayControls = FALSE;
 };

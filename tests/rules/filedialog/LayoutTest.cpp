@@ -2,6 +2,7 @@
 #include "filedialog/FileDialogLayout.h"
 
 #include "QVFileDialogDefs.h"
+#include "fileview/ShellListSkin.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "FileDialogIds.h"
+#include "SystemControls.h"
 
 #include <QVSkin.h>
 
@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kComboRowPx = 16;
 constexpr WPARAM kClosedField = static_cast<WPARAM>(-1);
+constexpr wchar_t kToolBarClass[] = L"ToolbarWindow32";
 
 } // namespace
 
@@ -21,29 +22,18 @@ void SetComboHeights(HWND combo) {
         ::SendMessageW(info.hwndList, LB_SETITEMHEIGHT, 0, height);
 }
 
-HWND ShellViewOf(HWND frame) {
-    return frame ? ::FindWindowExW(frame, nullptr, kShellViewClass, nullptr) : nullptr;
-}
-
-bool IsShellView(HWND wnd) {
-    wchar_t name[std::size(kShellViewClass) + 1] = L"";
-    return ::GetClassNameW(wnd, name, static_cast<int>(std::size(name))) &&
-           ::lstrcmpiW(name, kShellViewClass) == 0;
-}
-
-HWND ShellListIn(HWND view) {
-    return view ? ::GetDlgItem(view, kShellListId) : nullptr;
-}
-
-HWND ShellListOf(HWND frame) {
-    return ShellListIn(ShellViewOf(frame));
-}
-
 HWND ViewToolBarOf(HWND frame) {
     HWND bar = frame ? ::FindWindowExW(frame, nullptr, kToolBarClass, L"") : nullptr;
     while (bar && ::GetDlgCtrlID(bar) == kPlacesBarId)
         bar = ::FindWindowExW(frame, bar, kToolBarClass, L"");
     return bar;
+}
+
+void GrowFrame(HWND frame, int byPx) {
+    CRect window;
+    ::GetWindowRect(frame, &window);
+    ::SetWindowPos(frame, nullptr, 0, 0, window.Width(), window.Height() + byPx,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 } // namespace _qv_commonwnd
