@@ -24,6 +24,7 @@ BEGIN_MESSAGE_MAP(CSystemDialogFrame, CWnd)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
@@ -136,6 +137,12 @@ void CSystemDialogFrame::OnLButtonDown(UINT nFlags, CPoint point) {
     }
 }
 
+// The second of two quick presses, whatever became of the first.
+void CSystemDialogFrame::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    OnLButtonDown(nFlags, point);
+}
+
+// Only a press that began on the button closes: a dialog may come up under a mouse button that is still held.
 void CSystemDialogFrame::OnLButtonUp(UINT nFlags, CPoint point) {
     if (!m_band.IsPressed()) {
         CWnd::OnLButtonUp(nFlags, point);
