@@ -11,8 +11,10 @@ target_compile_definitions(qv_benchmark PUBLIC BENCHMARK_STATIC_DEFINE PRIVATE H
 target_link_libraries(qv_benchmark PUBLIC shlwapi)
 add_custom_target(qv_benchmarks)
 
-# qv_add_benchmark(NAME [LIBS target...] [EXTRA_SOURCES file...])
-# All .cpp and .rc files of the calling folder make one program with Google Benchmark's main.
+# qv_add_benchmark([WINDOWS] [LIBS library...])
+# All .cpp files of the calling folder make one program, named after the folder as tests are (cmake/QVTesting.cmake),
+# with Google Benchmark's main; WINDOWS: with one that prepares the thread for windows of the shell and of the common
+# controls.
 #
 # Names join the figures of one topic to one row of the table (scripts/bench_table.py):
 #   BM("topic/ours")->UseRealTime()            our time
@@ -22,11 +24,16 @@ add_custom_target(qv_benchmarks)
 # state.counters["goal_ns"] = 50 (absolute, no peer needed). A figure that is no time of a loop (bytes, memory, a
 # whole process) is printed by the program as a line
 #   bench|topic|ours|unit|peer name|peer|goal ratio            (peer fields may be empty)
-function(qv_add_benchmark name)
-  cmake_parse_arguments(ARG "" "" "LIBS;EXTRA_SOURCES" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
-  add_executable(${name} EXCLUDE_FROM_ALL ${sources} ${ARG_EXTRA_SOURCES})
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
-  target_link_libraries(${name} PRIVATE qv_options ${ARG_LIBS} qv_bench_support qv_benchmark)
-  add_dependencies(qv_benchmarks ${name})
+function(qv_add_benchmark)
+  cmake_parse_arguments(ARG "WINDOWS" "" "LIBS" ${ARGN})
+  qv_program_of_folder()
+  set(qv_program ${qv_program} PARENT_SCOPE)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_executable(${qv_program} EXCLUDE_FROM_ALL ${sources})
+  set_target_properties(${qv_program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
+  if(ARG_WINDOWS)
+    target_link_libraries(${qv_program} PRIVATE qv_bench_windows)
+  endif()
+  target_link_libraries(${qv_program} PRIVATE qv_options ${ARG_LIBS} qv_bench_support qv_benchmark user32 gdi32)
+  add_dependencies(qv_benchmarks ${qv_program})
 endfunction()

@@ -36,7 +36,7 @@ run_program() {
 # Peers that are no Windows programs are timed by a script of their own, on what the program has written.
 # $1: name of the program
 run_peers() {
-    local peers=$QV_ROOT/tests/bench/$1/peers.sh
+    local peers=$QV_ROOT/tests/${1//_//}/peers.sh # the program is named after its folder
     [[ -x $peers ]] || return 0
     "$peers" "$QV_BUILD/bench-peers" "$QV_BUILD/mingw/bench/$1-documents" "$BENCH_RESULTS/$1-peers.json" ||
         warn "the peers of $1 could not be timed: their rows have no ratio"

@@ -10,7 +10,7 @@ for part in common packages build prefix display shards; do
 done
 
 readonly GALLERY=$QV_STAGE/bin/QVGallery.exe
-readonly TOUR=$QV_BUILD/mingw/tests/gallery_e2e.exe
+readonly TOUR=$QV_BUILD/mingw/tests/e2e_host_gallery.exe
 readonly DEMO=$QV_BUILD/demo
 readonly TOUR_LIMIT=600s
 
@@ -38,7 +38,7 @@ take_tour() {
 main() {
     need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}"
     wine_stop_at_exit
-    build_tree mingw qv_runnable gallery_e2e || die "the build failed"
+    build_tree mingw qv_runnable e2e_host_gallery || die "the build failed"
     if [[ -n ${DISPLAY:-} && ${1:-} != --tour ]]; then
         show_gallery
     else

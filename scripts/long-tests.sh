@@ -14,6 +14,6 @@ visits=${1:-200} messages=${2:-1000000}
 [[ $visits$messages =~ ^[0-9]+$ ]] || die "usage: scripts/long-tests.sh [VISITS MESSAGES]"
 need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}"
 wine_stop_at_exit
-build_tree mingw qv_filedialog_test
+build_tree mingw windows_commonwnd_filedialog
 QV_DIALOG_VISITS=$visits QV_STORM_MESSAGES=$messages "$here/run-pe.sh" \
-    "$QV_BUILD/mingw/tests/qv_filedialog_test.exe" --gtest_filter='FileDialogLife.*'
+    "$QV_BUILD/mingw/tests/windows_commonwnd_filedialog.exe" --gtest_filter='FileDialogLife.*'

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs a PE program under Wine, on this tree's own prefix and display, and hands back its exit code.
-#   scripts/run-pe.sh build/mingw/tests/qv_support_test.exe --gtest_list_tests
+#   scripts/run-pe.sh build/mingw/tests/windows_driver.exe --gtest_list_tests
 #
 # ctest says what it runs in QV_TEST_RUN=KIND:STAGE. STAGE: the tree whose DLLs are used; the sanitizer builds have
 # their own. KIND window: the program has one of two displays for itself as long as it runs. Both kinds: the heap's

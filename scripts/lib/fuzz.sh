@@ -16,7 +16,7 @@ fuzz_one() {
     local program=$1 seconds=$2 name corpus seeds log
     name=$(basename "$program")
     corpus=$FUZZ_BUILD/corpus/$name
-    seeds=$QV_ROOT/tests/fuzz/seeds/$name
+    seeds=$QV_ROOT/tests/${name//_//}/seeds # the program is named after its folder
     log=$FUZZ_BUILD/$name.log
     mkdir -p "$corpus" "$FUZZ_BUILD/findings"
     [[ -d $seeds ]] || seeds=

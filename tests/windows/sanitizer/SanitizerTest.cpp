@@ -23,7 +23,7 @@ void PrintTo(const Mistake& mistake, std::ostream* out) {
 class Sanitizer : public ::testing::TestWithParam<Mistake> {};
 
 ChildResult makeMistake(const char* name) {
-    return runChild(programFolder() + L"\\qv_sanitizer_probe.exe", toWide(name));
+    return runChild(programFolder() + L"\\windows_sanitizer_probe.exe", toWide(name));
 }
 
 TEST_P(Sanitizer, SeesTheMistake) {
