@@ -1,12 +1,14 @@
 # find_package(QVCommonWnd): the library for a host that is built with the same toolchain.
 #
-#   find_package(QVCommonWnd REQUIRED)
+#   find_package(QVCommonWnd 1.0 REQUIRED)
 #   add_executable(MyEditor WIN32 Main.cpp)
 #   target_link_libraries(MyEditor PRIVATE QVCommonWnd::QVCommonWnd QVCommonWnd::Main)
 #
 # QVCommonWnd::QVCommonWnd  headers and import libraries of the product and of what its classes derive from
 # QVCommonWnd::Main         wWinMain of the framework, for a program that only defines its CWinApp object
+# QVCommonWnd_BIN_DIR       where the DLLs are; a program beside them finds them, the skins and the dictionaries
 get_filename_component(_qv_root "${CMAKE_CURRENT_LIST_DIR}/../../.." ABSOLUTE)
+set(QVCommonWnd_BIN_DIR "${_qv_root}/bin")
 
 if(NOT TARGET QVCommonWnd::QVCommonWnd)
   set(_qv_libraries "")

@@ -13,7 +13,8 @@ endif()
 
 # The runnable tree: copied to a Windows machine, it runs there as it stands.
 set(QV_SANITIZER "" CACHE STRING "undefined, guard or empty: what watches the programs while they run")
-if(QV_SANITIZER)
+option(QV_OWN_STAGE "The runnable tree stands in this build's folder and not in build/stage" OFF)
+if(QV_SANITIZER OR QV_OWN_STAGE)
   set(QV_STAGE ${CMAKE_BINARY_DIR}/stage)
 else()
   set(QV_STAGE ${CMAKE_SOURCE_DIR}/build/stage)
@@ -34,13 +35,19 @@ execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libssp.a
 target_link_libraries(qv_options INTERFACE ${QV_STACK_GUARD})
 
 include(QVSanitizers)
+include(QVShipping)
+include(CMakePackageConfigHelpers)
 
-# qv_add_dll(NAME [EXPORTS macro] [DEPENDS dll...] [SYSTEM_LIBS lib...])
-# One DLL per folder: all .cpp and .rc files below the calling folder, its public headers in include/. The sources are
-# compiled once: NAME is linked from the objects, and NAME_inner is an archive of the same objects, from which a test
-# or benchmark takes what the DLL does not export (an include names its room, "support/FileNameRules.h").
+# qv_add_dll(NAME DESCRIPTION text [FOLDER staged-folder] [EXPORTS macro] [DEPENDS dll...] [SYSTEM_LIBS lib...])
+# One DLL per folder, staged in bin unless FOLDER says another: all .cpp and .rc files below the calling folder, its
+# public headers in include/. The sources are compiled once: NAME is linked from the objects, and NAME_inner is an
+# archive of the same objects, from which a test or benchmark takes what the DLL does not export (an include names its
+# room, "support/FileNameRules.h").
 function(qv_add_dll name)
-  cmake_parse_arguments(ARG "" "EXPORTS" "DEPENDS;SYSTEM_LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "" "DESCRIPTION;FOLDER;EXPORTS" "DEPENDS;SYSTEM_LIBS" ${ARGN})
+  if(NOT ARG_FOLDER)
+    set(ARG_FOLDER bin)
+  endif()
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   file(GLOB_RECURSE resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
   add_library(${name}_objects OBJECT ${sources})
@@ -50,14 +57,18 @@ function(qv_add_dll name)
   target_include_directories(${name}_objects
     PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name}_objects PUBLIC ${ARG_DEPENDS} PRIVATE qv_options)
+  # Function names and lines, for whoever reads a crash; they are split off when the DLL is linked.
+  target_compile_options(${name}_objects PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-g1;-gdwarf-4>)
 
   add_library(${name} SHARED $<TARGET_OBJECTS:${name}_objects> ${resources})
   set_target_properties(${name} PROPERTIES
     LINKER_LANGUAGE CXX PREFIX "" IMPORT_PREFIX "lib"
-    RUNTIME_OUTPUT_DIRECTORY ${QV_STAGE}/bin
+    RUNTIME_OUTPUT_DIRECTORY ${QV_STAGE}/${ARG_FOLDER}
     ARCHIVE_OUTPUT_DIRECTORY ${QV_STAGE}/lib)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE qv_options ${ARG_SYSTEM_LIBS})
+  qv_add_version(${name} ${ARG_DESCRIPTION})
+  qv_split_symbols(${name})
   set_property(GLOBAL APPEND PROPERTY QV_PUBLIC_INCLUDE_DIRS ${CMAKE_CURRENT_SOURCE_DIR}/include)
 
   add_library(${name}_inner STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${name}_objects>)
@@ -78,10 +89,15 @@ function(qv_stage_common_files)
     if(NOT EXISTS ${found})
       message(FATAL_ERROR "${dll}.dll is not part of the toolchain ${CMAKE_CXX_COMPILER}")
     endif()
-    qv_stage_file(${found} bin/${dll}.dll outputs)
+    qv_stage_stripped(${found} bin/${dll}.dll outputs)
   endforeach()
   qv_stage_file(${CMAKE_SOURCE_DIR}/cmake/QVCommonWndConfig.cmake
     lib/cmake/QVCommonWnd/QVCommonWndConfig.cmake outputs)
+  qv_stage_file(${CMAKE_SOURCE_DIR}/cmake/mingw-w64-x86-64.cmake
+    lib/cmake/QVCommonWnd/mingw-w64-x86-64.cmake outputs)
+  set(version ${CMAKE_CURRENT_BINARY_DIR}/QVCommonWndConfigVersion.cmake)
+  write_basic_package_version_file(${version} COMPATIBILITY SameMajorVersion)
+  qv_stage_file(${version} lib/cmake/QVCommonWnd/QVCommonWndConfigVersion.cmake outputs)
   get_property(folders GLOBAL PROPERTY QV_PUBLIC_INCLUDE_DIRS)
   foreach(folder ${folders})
     file(GLOB_RECURSE headers RELATIVE ${folder} CONFIGURE_DEPENDS ${folder}/*.h)

@@ -1,7 +1,7 @@
 // The drop-down list of the file dialog's look-in combo box: folders with icons, indented by their depth.
 #pragma once
 
-#include <QVComboBox.h>
+#include <QVComboLBox.h>
 
 namespace _qv_commonwnd {
 

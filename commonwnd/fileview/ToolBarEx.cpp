@@ -2,7 +2,7 @@
 
 #include "support/Handles.h"
 
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 #include <QVSkin.h>
 
 namespace _qv_commonwnd {
@@ -62,16 +62,17 @@ void CToolBarEx::OnPaint() {
     const Selection font(dc, QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(m_hWnd))->GetSafeHandle());
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(QV_GetSysColor(QVCLR_TEXT_WINDOW));
-    const int count = GetButtonCount();
+    const int count = GetToolBarCtrl().GetButtonCount();
     for (int index = 0; index < count; ++index)
         PaintButton(&dc, index);
 }
 
 void CToolBarEx::PaintButton(CDC* dc, int index) const {
+    const CToolBarCtrl& control = GetToolBarCtrl();
     TBBUTTON button = {};
     CRect rect;
-    if (!GetButton(index, &button) || (button.fsState & TBSTATE_HIDDEN) || (button.fsStyle & BTNS_SEP) ||
-        !CToolBarCtrl::GetItemRect(index, &rect))
+    if (!control.GetButton(index, &button) || (button.fsState & TBSTATE_HIDDEN) ||
+        (button.fsStyle & BTNS_SEP) || !control.GetItemRect(index, &rect))
         return;
     dc->FillSolidRect(rect, QV_GetSysColor(QVCLR_WINDOW));
     PaintImage(dc, rect, button.iBitmap);
@@ -114,7 +115,7 @@ CString CToolBarEx::TextOfButton(int command) const {
     info.dwMask = TBIF_TEXT;
     info.pszText = text;
     info.cchText = kMostTextUnits + 1;
-    return GetButtonInfo(command, &info) ? CString(text) : CString();
+    return GetToolBarCtrl().GetButtonInfo(command, &info) ? CString(text) : CString();
 }
 
 } // namespace _qv_commonwnd

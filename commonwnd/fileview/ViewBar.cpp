@@ -1,6 +1,6 @@
 #include "ViewBar.h"
 
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 #include <QVSkin.h>
 
 namespace _qv_commonwnd {

@@ -2,6 +2,7 @@
 
 #include "ShellShortcut.h"
 #include "support/Handles.h"
+#include "support/QuietErrors.h"
 
 #include <shlwapi.h>
 
@@ -60,6 +61,7 @@ HRESULT STDMETHODCALLTYPE IUXFolderFilter::ShouldShow(IShellFolder* folder, PCID
         return E_FAIL;
     if (!folder || !itemId)
         return S_OK;
+    const QuietErrors quiet;
     try {
         if (IsFolder(folder, itemId))
             return S_OK;

@@ -60,7 +60,8 @@ BOOL CQVFilePathShowTip::OnEraseBkgnd(CDC* dc) {
 
 // Nobody wants to hear of each of a hundred thousand rows, whether it comes or goes.
 LRESULT CQVFilePathShowTip::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == LVN_INSERTITEM)
+    const auto* const header = message == WM_NOTIFY ? reinterpret_cast<const NMHDR*>(lParam) : nullptr;
+    if (header && header->code == LVN_INSERTITEM)
         return 0;
     return CQVDialog::WindowProc(message, wParam, lParam);
 }

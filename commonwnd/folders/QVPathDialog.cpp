@@ -4,6 +4,7 @@
 #include "QVPathBrowseWnd.h"
 #include "ShellShortcut.h"
 #include "support/Handles.h"
+#include "support/QuietErrors.h"
 
 #include <LWSupportAPI.h>
 
@@ -66,6 +67,7 @@ CQVPathDialog::~CQVPathDialog() {
 
 INT_PTR CQVPathDialog::DoModal() {
     const OleScope ole;
+    const QuietErrors quiet;
     BROWSEINFOW info = {};
     info.hwndOwner = m_pParent ? m_pParent->GetSafeHwnd() : ::GetActiveWindow();
     info.lpszTitle = m_strTitle;

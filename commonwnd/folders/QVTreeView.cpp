@@ -1,7 +1,7 @@
 #include "QVTreeView.h"
 
 #include <QVListControls.h>
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 #include <QVReplaceWnd.h>
 #include <QVSkin.h>
 

@@ -2,7 +2,9 @@
 
 #include "support/FileNameRules.h"
 #include "support/Handles.h"
+#include "support/QuietErrors.h"
 #include "support/TextCase.h"
+#include "support/TextView.h"
 
 #include <shlobj.h>
 
@@ -13,7 +15,7 @@ namespace {
 constexpr wchar_t kShortcutExtension[] = L".lnk";
 
 std::wstring_view ExtensionOf(const CString& path) {
-    return SplitPath({path.GetString(), static_cast<std::size_t>(path.GetLength())}).extension;
+    return SplitPath(ViewOf(path)).extension;
 }
 
 } // namespace
@@ -21,6 +23,7 @@ std::wstring_view ExtensionOf(const CString& path) {
 CString ResolveShortcut(const CString& path) {
     if (ExtensionOf(path) != kShortcutExtension)
         return CString();
+    const QuietErrors quiet;
     ComHandle<IShellLinkW> link;
     ComHandle<IPersistFile> file;
     if (FAILED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
@@ -40,6 +43,7 @@ CString ShortcutTargetOrSelf(const CString& path) {
 }
 
 bool IsFoundFolder(const CString& path) {
+    const QuietErrors quiet;
     WIN32_FIND_DATAW data = {};
     const HANDLE search = ::FindFirstFileW(path, &data);
     if (search == INVALID_HANDLE_VALUE)

@@ -12,6 +12,7 @@
 
 #include <QVButton.h>
 #include <QVComboBox.h>
+#include <QVComboBoxEx.h>
 #include <QVEdit.h>
 #include <QVListControls.h>
 #include <QVStatic.h>

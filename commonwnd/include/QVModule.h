@@ -14,8 +14,9 @@ namespace _qv_commonwnd {
 QVCOMMONWND_API void QV_InitCommonWnd();
 
 // To be called by the host before it unloads the library (FreeLibrary) or ends, on the user-interface thread.
-// Stores the folder shown by g_pDirListWnd as profile text "PathSet"/"FilePath", then destroys and deletes
-// both kept windows and clears their slots. With both slots empty nothing happens; calling it again is fine.
+// Stores the folder shown by g_pDirListWnd as profile text "PathSet"/"FilePath" (the text stays as it is when
+// the list's window is gone already), then destroys and deletes both kept windows and clears their slots.
+// With both slots empty nothing happens; calling it again is fine.
 QVCOMMONWND_API void QV_ReleaseCommonWnd();
 
 // The library's own instance: where its dialog templates (31035 to 31104) are found. Set while the library is

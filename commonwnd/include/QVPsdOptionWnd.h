@@ -4,7 +4,7 @@
 #include "QVDialogPanel.h"
 #include "QVFileDialogDefs.h"
 
-#include <QVComboBox.h>
+#include <QVCheckComboBox.h>
 #include <QVStatic.h>
 
 #include <vector>

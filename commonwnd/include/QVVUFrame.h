@@ -20,9 +20,10 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
     DECLARE_DYNCREATE(CQVVUFrame)
 
   public:
-    static constexpr int kMostInputs = 4;
-    static constexpr int kMostTracks = 95;
-    static constexpr int kMostOutputs = 8;
+    // The most channels of each group. Values that may be used as constants and by reference.
+    static const int kMostInputs = 4;
+    static const int kMostTracks = 95;
+    static const int kMostOutputs = 8;
 
     CQVVUFrame();
     ~CQVVUFrame() override;

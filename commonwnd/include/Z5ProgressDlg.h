@@ -26,7 +26,7 @@ namespace _qv_commonwnd {
 // Threads: ProgressWndDoModle runs on the user-interface thread. SetCurPos, SetTextShow, EndProgressWnd and
 // Exist may be called from any thread while the window runs; the window shows what they stored at its next
 // tick. SetCurPos, EndProgressWnd and Exist store and load single values; SetTextShow copies under a lock
-// that nobody holds longer than such a copy takes. None of them waits for the window.
+// that nobody holds longer than a copy takes. None of them waits for the window.
 class QVCOMMONWND_API CZ5ProgressDlg : public _qv_commonctrl::CQVDialog {
     DECLARE_DYNAMIC(CZ5ProgressDlg)
 
@@ -42,8 +42,8 @@ class QVCOMMONWND_API CZ5ProgressDlg : public _qv_commonctrl::CQVDialog {
     // `next` as the position of the next report; a `next` that is not above `cur` announces nothing.
     static void SetCurPos(int cur, int next);
 
-    // The message above the bar, copied; null is ignored. From another thread than the window's the text is
-    // handed over and replaces an earlier one that was not shown yet.
+    // The message above the bar, copied into strText at once; null is ignored. The last text counts,
+    // whichever thread set it. One that is too long for its line ends in an ellipsis there.
     static void SetTextShow(wchar_t* text);
 
     // Non-zero: at its next tick the window fills the bar and closes. 0 takes it back.
@@ -57,15 +57,18 @@ class QVCOMMONWND_API CZ5ProgressDlg : public _qv_commonctrl::CQVDialog {
     static float m_nCurPos; // position of the bar in units of the range; 0 at load and with each new window
     static int m_nNextPos;  // announced next position, -1 for none; 0 at load
     static int m_bExist;    // see Exist
-    static CString strText; // the message without its dots; window's thread only
+    // The message without its dots, always what was set last. A thread may read it while no other calls
+    // SetTextShow: where a worker sets the texts, that is the worker alone until it has ended.
+    static CString strText;
 
     // `parent`: null for none; ProgressWndDoModle passes none.
     explicit CZ5ProgressDlg(CWnd* parent = nullptr);
     ~CZ5ProgressDlg() override;
 
     BOOL OnInitDialog() override;
-    void OnOK() override;     // nothing: Enter never closes the window
-    void OnCancel() override; // nothing: Escape never closes the window
+    BOOL PreTranslateMessage(MSG* msg) override; // Enter does nothing, whatever has the focus
+    void OnOK() override;                        // nothing: Enter never closes the window
+    void OnCancel() override;                    // nothing: Escape never closes the window
     void OnSkinChange(UINT reason, HWND wnd) override;
     void DoDataExchange(CDataExchange* dx) override;
 

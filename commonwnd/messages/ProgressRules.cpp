@@ -7,7 +7,6 @@ namespace _qv_commonwnd {
 namespace {
 
 constexpr int kMaxDots = 20;
-constexpr int kMostCharacters = 1024;
 constexpr float kSlowDown = 3.0f;
 
 // Pixels at 96 DPI.
@@ -38,9 +37,7 @@ int BarPosition(float cur, int range) {
 }
 
 CString ProgressMessage(const CString& text, int dots) {
-    if (text.GetLength() <= kMostCharacters)
-        return text + CString(L'.', dots);
-    return text.Left(kMostCharacters) + CString(L'.', dots);
+    return text + CString(L'.', dots);
 }
 
 int NextDotCount(int dots) {

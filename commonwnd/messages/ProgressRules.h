@@ -21,8 +21,7 @@ void AdvanceProgress(ProgressState& state);
 // The position as the bar takes it: without its fraction, bounded to 0..range (NaN: 0).
 int BarPosition(float cur, int range);
 
-// The message with `dots` dots behind it. Of a text that is longer than any line can show, its first 1,024
-// characters.
+// The message with `dots` dots behind it.
 CString ProgressMessage(const CString& text, int dots);
 
 // The number of dots after `dots`: 0 to 20, then 0 again.

@@ -61,7 +61,8 @@ void PlaceParts(CWnd& box, CSize question, UINT dpi) {
 
 void GrowForQuestion(CQVXMessageBox& box) {
     const UINT dpi = _qv_commonctrl::QV_GetWindowDpi(box.m_hWnd);
-    const CSize question = MeasureTextIn(::GetDlgItem(box.m_hWnd, IDC_MSGBOX_TEXT), box.m_strText, 0);
+    const CSize question =
+        MeasureTextIn(::GetDlgItem(box.m_hWnd, IDC_MSGBOX_TEXT), box.m_strText, DT_NOPREFIX);
     CRect window;
     box.GetWindowRect(&window);
     const CSize size = MessageBoxSize(question, window.Size(), WorkAreaOf(box.m_hWnd), dpi);

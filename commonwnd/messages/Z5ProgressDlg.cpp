@@ -9,9 +9,8 @@
 #include <QVSkin.h>
 
 #include <atomic>
+#include <cwchar>
 #include <mutex>
-#include <string>
-#include <utility>
 
 namespace _qv_commonwnd {
 
@@ -23,11 +22,8 @@ constexpr int kDefaultRange = 100;
 constexpr int kLargestRange = 1000;
 constexpr int kBarStep = 1;
 
-int s_nDotCount = 0;      // dots at the next tick; goes on from one window to the next
-DWORD s_windowThread = 0; // the thread of the running window, 0: none
-std::wstring s_newText;   // from a worker to the window; keeps its memory for the next
-bool s_bNewText = false;
-SpinLock s_textLock; // of the way that a text takes; held no longer than a copy takes
+int s_nDotCount = 0; // dots at the next tick; goes on from one window to the next
+SpinLock s_textLock; // of strText, as SetTextShow and the window use it; held no longer than a copy takes
 
 // The static members are plain data that other threads store to while the window runs.
 template <class T> T Load(T& value) {
@@ -38,18 +34,9 @@ template <class T> void Store(T& value, T now) {
     std::atomic_ref<T>(value).store(now, std::memory_order_relaxed);
 }
 
-// A worker that reports before the window is up stores its text at once: the window must not read it
-// meanwhile.
-CString TakeText() {
+CString TextNow() {
     const std::lock_guard lock(s_textLock);
-    if (std::exchange(s_bNewText, false))
-        CZ5ProgressDlg::strText = s_newText.c_str();
     return CZ5ProgressDlg::strText;
-}
-
-void SetWindowThread(DWORD thread) {
-    const std::lock_guard lock(s_textLock);
-    s_windowThread = thread;
 }
 
 void LayOut(CZ5ProgressDlg& window) {
@@ -78,7 +65,7 @@ void Tick(CZ5ProgressDlg& window) {
     window.m_fStep = state.step;
     window.m_nSlowLimit = state.slowLimit;
     ShowPosition(window);
-    window.m_stText.SetWindowText(ProgressMessage(TakeText(), s_nDotCount));
+    window.m_stText.SetWindowText(ProgressMessage(TextNow(), s_nDotCount));
     s_nDotCount = NextDotCount(s_nDotCount);
 }
 
@@ -121,10 +108,7 @@ void CZ5ProgressDlg::ProgressWndDoModle(wchar_t* title, int range, float step) {
     if (step > 0.0f)
         window.m_fStep = step;
     Store(m_bExist, 0);
-    SetWindowThread(::GetCurrentThreadId());
     window.CDialog::DoModal();
-    SetWindowThread(0);
-    TakeText();
 }
 
 void CZ5ProgressDlg::SetCurPos(int cur, int next) {
@@ -135,13 +119,13 @@ void CZ5ProgressDlg::SetCurPos(int cur, int next) {
 void CZ5ProgressDlg::SetTextShow(wchar_t* text) {
     if (!text)
         return;
+    const auto length = static_cast<int>(std::wcslen(text));
     const std::lock_guard lock(s_textLock);
-    if (s_windowThread == 0 || s_windowThread == ::GetCurrentThreadId()) {
-        strText = text;
-        return;
-    }
-    s_newText = text;
-    s_bNewText = true;
+    const wchar_t* const former = strText;
+    if (text >= former && text <= former + strText.GetLength())
+        strText.SetString(text, length); // a piece of itself
+    else // into the memory that the former text had: a worker reports with each file
+        std::wmemcpy(strText.GetBufferSetLength(length), text, static_cast<std::size_t>(length));
 }
 
 void CZ5ProgressDlg::EndProgressWnd(int end) {
@@ -162,7 +146,7 @@ BOOL CZ5ProgressDlg::OnInitDialog() {
     CQVDialog::OnInitDialog();
     Store(m_bExist, 0);
     SetWindowText(m_strTitle);
-    m_stText.SetWindowText(ProgressMessage(TakeText(), 0));
+    m_stText.SetWindowText(ProgressMessage(TextNow(), 0));
     m_ctrlProgress.SetRange32(0, m_nRange);
     m_ctrlProgress.SetPos(0);
     m_ctrlProgress.SetStep(kBarStep);
@@ -170,6 +154,14 @@ BOOL CZ5ProgressDlg::OnInitDialog() {
     LayOut(*this);
     SetDlgItemText(IDC_PROGRESS_CANCEL, LWLoadString(L"PUBLIC_IDCANCEL"));
     return TRUE;
+}
+
+// The cancel button has the focus: the dialog manager would press it for Enter, as if it were the default
+// one.
+BOOL CZ5ProgressDlg::PreTranslateMessage(MSG* msg) {
+    if (msg && msg->message == WM_KEYDOWN && msg->wParam == VK_RETURN)
+        return TRUE;
+    return CQVDialog::PreTranslateMessage(msg);
 }
 
 void CZ5ProgressDlg::OnTimer(UINT_PTR id) {

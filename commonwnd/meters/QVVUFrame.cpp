@@ -3,7 +3,7 @@
 #include "VUFacePainter.h"
 #include "support/Handles.h"
 
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 #include <QVSkin.h>
 
 #include <algorithm>
@@ -101,6 +101,11 @@ void ShowLevels(CQVVUTableCtrl* const (&slots)[SLOTS], const std::array<GroupLev
 }
 
 } // namespace
+
+// Exported, so that a host that takes their address links without optimisation as well.
+const int CQVVUFrame::kMostInputs;
+const int CQVVUFrame::kMostTracks;
+const int CQVVUFrame::kMostOutputs;
 
 IMPLEMENT_DYNCREATE(CQVVUFrame, CWnd)
 

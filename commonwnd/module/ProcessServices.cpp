@@ -1,27 +1,13 @@
 #include "ProcessServices.h"
 
+#include "support/QuietErrors.h"
+
 #include <windows.h>
 
 namespace _qv_commonwnd {
 
-namespace {
-
-// Keeps the system from asking the user about a missing disk while a folder or library is looked for.
-class QuietErrors {
-  public:
-    QuietErrors() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &m_former); }
-    ~QuietErrors() { SetThreadErrorMode(m_former, nullptr); }
-    QuietErrors(const QuietErrors&) = delete;
-    QuietErrors& operator=(const QuietErrors&) = delete;
-
-  private:
-    DWORD m_former = 0;
-};
-
-} // namespace
-
 IProcessServices::Module ProcessServices::Load(const std::wstring& fileName) {
-    QuietErrors quiet;
+    const QuietErrors quiet;
     return LoadLibraryW(fileName.c_str());
 }
 
@@ -43,14 +29,14 @@ std::wstring ProcessServices::ExecutablePath() {
 }
 
 bool ProcessServices::IsDirectory(const std::wstring& path) {
-    QuietErrors quiet;
+    const QuietErrors quiet;
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 void ProcessServices::VisitDirectories(const std::wstring& pattern,
                                        const std::function<bool(const std::wstring& name)>& visitor) {
-    QuietErrors quiet;
+    const QuietErrors quiet;
     WIN32_FIND_DATAW entry;
     const HANDLE find = FindFirstFileW(pattern.c_str(), &entry);
     if (find == INVALID_HANDLE_VALUE)

@@ -35,12 +35,12 @@ void QV_InitCommonWnd() {
 
 void QV_ReleaseCommonWnd() {
     constexpr int kShownFolder = -1;
-    if (g_pDirListWnd) {
+    if (g_pDirListWnd && g_pDirListWnd->m_hWnd) { // a list without window cannot say what it showed
         CString path;
         g_pDirListWnd->GetPathName(path, kShownFolder);
         StorePath(kFilePathKey, path);
-        ReleaseWindow(g_pDirListWnd);
     }
+    ReleaseWindow(g_pDirListWnd);
     ReleaseWindow(g_pCommonWnd);
 }
 

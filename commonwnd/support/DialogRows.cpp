@@ -58,7 +58,8 @@ constexpr int kMostRoomPx = 400; // that a window grows for one label, at 96 DPI
 // How much wider than its label a text is, pixels, up to what a window grows by; 0 and less: it fits.
 int MissingWidth(const Item& label) {
     const CString text = WindowTextOf(label.wnd).Left(kMostRoomPx);
-    const int width = MeasureTextIn(label.wnd->m_hWnd, text, DT_SINGLELINE).cx;
+    const UINT prefix = label.wnd->GetStyle() & SS_NOPREFIX ? DT_NOPREFIX : 0;
+    const int width = MeasureTextIn(label.wnd->m_hWnd, text, DT_SINGLELINE | prefix).cx;
     return std::min(width - label.rect.Width(), QV_ScalePx(label.wnd->m_hWnd, kMostRoomPx));
 }
 

@@ -34,8 +34,10 @@ CRect ChildRect(const CWnd& parent, int id) {
 }
 
 void UseLabelStyle(CWnd* control) {
-    if (auto* label = dynamic_cast<_qv_commonctrl::CQVStatic*>(control))
+    if (auto* label = dynamic_cast<_qv_commonctrl::CQVStatic*>(control)) {
         label->SetTextStyle(_qv_commonctrl::QVTEXT_LABEL);
+        label->ModifyStyle(0, SS_NOPREFIX);
+    }
 }
 
 void ResizeInPlace(CWnd& wnd, CSize size) {

@@ -15,7 +15,8 @@ CSize MeasureTextIn(HWND control, const CString& text, UINT format);
 // Where a child stands, client pixels of its parent; empty when there is no such child.
 CRect ChildRect(const CWnd& parent, int id);
 
-// Gives a static the skin's label style. Null, or a control that is no skinned static, is left alone.
+// Gives a static whose text is the host's the skin's label style; an & in the text is shown as it is. Null,
+// or a control that is no skinned static, is left alone.
 void UseLabelStyle(CWnd* control);
 
 // The left-most, top-most `size` of a window becomes its new size; it stays where it is.

@@ -8,7 +8,7 @@
 
 #include <LWSupportAPI.h>
 #include <QVCommonClass.h>
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 #include <QVSkin.h>
 
 using namespace _qv_commonctrl;

@@ -7,7 +7,7 @@
 #include "res/ResourceIds.h"
 
 #include <QVCommonClass.h>
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 #include <QVSkin.h>
 
 using namespace _qv_commonctrl;

@@ -49,8 +49,7 @@ CQVNumberEditEx* CreateNumberEdit(CWnd& dialog, int placeholder, UINT id) {
                    ChildRect(dialog, placeholder), &dialog, id);
     edit->SetFont(QV_GetSysFont(QVFONT_UI, QV_GetWindowDpi(dialog.m_hWnd)));
     edit->LimitText(kMostCharacters);
-    edit->SetWindowPos(dialog.GetDlgItem(placeholder), 0, 0, 0, 0,
-                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    edit->SetWindowPos(dialog.GetDlgItem(placeholder), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     return edit;
 }
 

@@ -45,7 +45,7 @@ void ReportLayers(IGalleryContext& context, CQVFileDialog& dialog) {
 void ImportLayers(IGalleryContext& context) {
     CQVFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST, kFilter, context.MainWnd(), 0, FALSE,
                          FALSE, FDO_KEEPOK);
-    dialog.EnableLayerInfo(2); // the panel may appear
+    dialog.EnableLayerInfo(LAYERINFO_ALLOWPANEL);
     const CString folder = context.SampleFolder();
     StartIn(dialog, folder);
     if (!ReportOpened(context, dialog, dialog.DoModal(), kFilter))

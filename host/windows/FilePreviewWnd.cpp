@@ -2,7 +2,7 @@
 
 #include "PreviewPaint.h"
 
-#include <QVMemoDC.h>
+#include <QVPaintMemoDC.h>
 
 #include <algorithm>
 

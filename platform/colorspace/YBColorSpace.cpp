@@ -1,3 +1,4 @@
+// The colour-space library: conversions between R'G'B' and Y'CbCr, and the table that offers them.
 #include "YBColorSpace.h"
 
 #include <cmath>

@@ -6,7 +6,7 @@ readonly BUILD_PACKAGES=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix goo
 readonly RUN_PACKAGES=(wine64 fonts-wine fonts-liberation fonts-wqy-microhei xvfb locales xdotool)
 readonly CHECK_PACKAGES=(clang-19 clang-tidy-19 libclang-rt-19-dev clang-format cppcheck shellcheck python3 git)
 readonly BENCH_PACKAGES=(dpkg-dev python3)
-readonly ZIP_PACKAGES=(zip)
+readonly ZIP_PACKAGES=(zip unzip)
 
 package_installed() {
     [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]

@@ -1,4 +1,4 @@
-// YBColorSpace.h - entry of the colour-space library.
+// Entry of the colour-space library.
 //
 //   const YBColorSpaceApi* api = VMQ_GetAPIStuPtr();          // or by GetProcAddress
 //   YBPixelYCbCr black = {16, 128, 128};

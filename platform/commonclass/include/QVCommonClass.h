@@ -1,3 +1,4 @@
+// Everything that QVCommonClassU.dll offers.
 #pragma once
 
 // Everything QVCommonClassU.dll offers: profile texts, registry items, the resource-handle scope, the

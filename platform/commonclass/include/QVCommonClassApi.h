@@ -1,3 +1,4 @@
+// Import and export of this library's names.
 #pragma once
 
 // QVCOMMONCLASS_API stands before everything this library exports. A program that takes all sources in one

@@ -1,3 +1,4 @@
+// The profile: texts by section and key, kept for the user in the registry.
 #pragma once
 
 #include <afxwin.h>
@@ -20,18 +21,18 @@ inline constexpr int kProfileKeyMaxChars = 16383;
 inline constexpr int kProfileValueMaxChars = 1048576;
 inline constexpr int kProfileRootMaxChars = 1024;
 
-// The text stored under section and key.
-// Answers defaultValue (null counts as empty) when section or key is null, empty or over its limit, when
-// nothing is stored there, when what is stored is not a text, is longer than kProfileValueMaxChars or must
-// not be read. A stored empty text is answered as empty, not as the default. A text stored without its ending
-// NUL or with an odd number of bytes by someone else is read as far as it goes; it ends at its first NUL. A
-// section may hold backslashes: they are part of its name and do not nest.
+// The text stored under section and key. Answers defaultValue (null counts as empty) when section or key is
+// null, empty or over its limit, when nothing is stored there, when what is stored is not a text, is longer
+// than kProfileValueMaxChars or must not be read. A stored empty text is answered as empty, not as the
+// default. A text stored without its ending NUL or with an odd number of bytes by someone else is read as far
+// as it goes; it ends at its first NUL. A section may hold backslashes: they are part of its name and do not
+// nest.
 QVCOMMONCLASS_API CString QV_GetProfileString(LPCWSTR section, LPCWSTR key, LPCWSTR defaultValue);
 
-// Stores value under section and key; creates the section when it is missing.
-// As in the system's own profile calls a null value removes the key, and a null key removes the whole
-// section; removing what is not there succeeds. An empty value is stored. FALSE, with nothing changed, when
-// section is null or empty, key is empty, a limit is passed or the registry refuses.
+// Stores value under section and key; creates the section when it is missing. As in the system's own profile
+// calls a null value removes the key, and a null key removes the whole section; removing what is not there
+// succeeds. An empty value is stored. FALSE, with nothing changed, when section is null or empty, key is
+// empty, a limit is passed or the registry refuses.
 QVCOMMONCLASS_API BOOL QV_WriteProfileString(LPCWSTR section, LPCWSTR key, LPCWSTR value);
 
 // Chooses where profile and items are kept: a path below HKEY_CURRENT_USER such as

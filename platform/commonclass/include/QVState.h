@@ -1,3 +1,4 @@
+// Figures by which the host tells the common windows how to behave.
 #pragma once
 
 #include "QVCommonClassApi.h"

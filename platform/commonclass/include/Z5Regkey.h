@@ -1,3 +1,4 @@
+// CZ5Regkey: one registry item, a key with named texts.
 #pragma once
 
 #include <afxwin.h>

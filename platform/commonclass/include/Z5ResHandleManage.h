@@ -1,3 +1,4 @@
+// CZ5ResHandleManage: a module as the framework's current resource handle for a scope.
 #pragma once
 
 #include <afxwin.h>

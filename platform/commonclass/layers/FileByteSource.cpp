@@ -1,3 +1,4 @@
+// FileByteSource: the file opened, measured and read.
 #include "FileByteSource.h"
 #include "LongPath.h"
 #include <algorithm>

@@ -1,3 +1,4 @@
+// FileByteSource: the bytes of a file on disk for the document reader.
 #pragma once
 
 #include "psd/ByteSource.h"

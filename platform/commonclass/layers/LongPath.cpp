@@ -1,3 +1,4 @@
+// Paths beyond the system's limit of 260 characters, brought into the form that lifts it.
 #include "LongPath.h"
 #include <string_view>
 #include <windows.h>

@@ -1,3 +1,4 @@
+// Paths beyond the system's limit of 260 characters.
 #pragma once
 
 #include <string>

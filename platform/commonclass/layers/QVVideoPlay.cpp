@@ -1,3 +1,4 @@
+// CQVVideoPlay: a document's layer names as texts of the caller.
 #include "QVVideoPlay.h"
 #include "FileByteSource.h"
 #include "SystemLegacyDecoder.h"

@@ -1,3 +1,4 @@
+// SystemLegacyDecoder: legacy layer names by the system's code page tables.
 #pragma once
 
 #include "psd/LegacyDecoder.h"

@@ -1,3 +1,4 @@
+// CZ5ResHandleManage: puts a resource handle in force, and the former one back.
 #include "Z5ResHandleManage.h"
 
 namespace _qv_commonclass {

@@ -1,3 +1,4 @@
+// The root that the host may choose, and the paths below it.
 #include "ProfileRoot.h"
 #include "QVProfile.h"
 #include "RegistryNames.h"

@@ -1,3 +1,4 @@
+// Where profile and items are kept: the path of a section or an item below the root.
 #pragma once
 
 #include <string>

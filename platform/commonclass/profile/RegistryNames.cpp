@@ -1,3 +1,4 @@
+// Names of keys and values, and root paths, checked and brought into form.
 #include "RegistryNames.h"
 #include <cwchar>
 

@@ -1,3 +1,4 @@
+// What names the registry takes, and names brought into a form that it takes.
 #pragma once
 
 #include <optional>

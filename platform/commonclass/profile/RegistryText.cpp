@@ -1,3 +1,4 @@
+// One text value of an open registry key: read whatever its length, stored, removed.
 #include "RegistryText.h"
 #include "QVProfile.h"
 #include "RegistryNames.h"

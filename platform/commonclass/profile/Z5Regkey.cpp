@@ -1,3 +1,4 @@
+// CZ5Regkey: the open item, its texts.
 #include "Z5Regkey.h"
 #include "ProfileRoot.h"
 #include "RegistryKey.h"
@@ -23,8 +24,8 @@ BOOL CZ5Regkey::OpenItem(LPCWSTR item, BOOL create) {
         const std::wstring path = storePath(Store::Items, *keyName);
         const KeyCreation creation = create ? KeyCreation::CreateMissing : KeyCreation::OpenOnly;
         RegistryKey key;
-        if (!key.open(path, KeyAccess::Write, creation) &&
-            !key.open(path, KeyAccess::Read, KeyCreation::OpenOnly))
+        if (key.open(path, KeyAccess::Write, creation) != ERROR_SUCCESS &&
+            key.open(path, KeyAccess::Read, KeyCreation::OpenOnly) != ERROR_SUCCESS)
             return FALSE;
         m_hKey = key.release();
         return TRUE;

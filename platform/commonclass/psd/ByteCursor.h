@@ -1,3 +1,4 @@
+// ByteCursor: a checked walk through one stretch of a document.
 #pragma once
 
 #include "ReadWindow.h"
@@ -23,8 +24,9 @@ class ByteCursor {
         return true;
     }
 
-    // Gets a short stretch into memory as a whole, so that its steps need not ask the window one by one. The cursor and
-    // those entered from it then stand on the window's bytes: they are valid until the window is used by another.
+    // Gets a short stretch into memory as a whole, so that its steps need not ask the window one by one. The
+    // cursor and those entered from it then stand on the window's bytes: they are valid until the window is
+    // used by another.
     void hold() noexcept {
         if (m_held != nullptr || left() > kMaxHeldBytes)
             return;
@@ -82,7 +84,8 @@ class ByteCursor {
     bool enter(std::uint64_t length, ByteCursor& inner) noexcept {
         if (length > left())
             return false;
-        // Member by member: the position has just been written, and a copy of the whole would have to wait for it.
+        // Member by member: the position has just been written, and a copy of the whole would have to wait
+        // for it.
         inner.m_window = m_window;
         inner.m_held = m_held;
         inner.m_pos = m_pos;
@@ -104,8 +107,8 @@ class ByteCursor {
     static constexpr std::uint64_t kMaxHeldBytes = ReadWindow::kLongSkipBytes;
 
     ReadWindow* m_window = nullptr;
-    const std::uint8_t* m_held =
-        nullptr; // the bytes that positions count from; null: positions are the source's
+    // The bytes that positions count from; null: positions are the source's.
+    const std::uint8_t* m_held = nullptr;
     std::uint64_t m_pos = 0;
     std::uint64_t m_end = 0;
 };

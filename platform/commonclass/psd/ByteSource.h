@@ -1,3 +1,4 @@
+// ByteSource: where a document's bytes come from.
 #pragma once
 
 #include <cstddef>

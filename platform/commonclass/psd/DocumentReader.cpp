@@ -1,3 +1,4 @@
+// DocumentReader: header, the sections that are skipped, the layer list wherever it stands.
 #include "DocumentReader.h"
 #include "LayerRecord.h"
 #include <algorithm>

@@ -1,3 +1,4 @@
+// DocumentReader: from a document's header to its layer records.
 #pragma once
 
 #include "LayerNames.h"

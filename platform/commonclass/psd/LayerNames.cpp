@@ -1,3 +1,4 @@
+// The names of a Photoshop document's layers: the reader over its window of bytes.
 #include "LayerNames.h"
 #include "DocumentReader.h"
 

@@ -1,3 +1,4 @@
+// LayerRecord: what a record is, and its name by the better of its two sources.
 #include "LayerRecord.h"
 #include "LayerNames.h"
 #include "LegacyName.h"
@@ -8,8 +9,8 @@ namespace _qv_commonclass::psd {
 
 namespace {
 
-// A record begins with the layer's bounds and the number of its channels; behind those stand the blend mode with its
-// signature, four bytes of flags, and the length of the rest.
+// A record begins with the layer's bounds and the number of its channels; behind those stand the blend mode
+// with its signature, four bytes of flags, and the length of the rest.
 constexpr std::size_t kBoundsBytes = 16;
 constexpr std::size_t kHeadBytes = kBoundsBytes + 2;
 constexpr std::uint64_t kChannelBytes = 6;      // id and 32-bit length
@@ -96,7 +97,8 @@ bool LayerRecord::readExtra(ByteCursor& extra) {
     return true;
 }
 
-// The bytes are copied when the blocks that follow may move the window on: only they tell whether the name is needed.
+// The bytes are copied when the blocks that follow may move the window on: only they tell whether the name is
+// needed.
 bool LayerRecord::readLegacyBytes(ByteCursor& extra) noexcept {
     std::uint8_t length = 0;
     if (extra.left() == 0)

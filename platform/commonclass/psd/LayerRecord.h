@@ -1,3 +1,4 @@
+// LayerRecord: one record of the layer section.
 #pragma once
 
 #include "LegacyDecoder.h"

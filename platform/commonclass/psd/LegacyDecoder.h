@@ -1,3 +1,4 @@
+// LegacyDecoder: bytes of a code page to UTF-16.
 #pragma once
 
 #include <cstdint>

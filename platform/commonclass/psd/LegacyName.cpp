@@ -1,3 +1,4 @@
+// Legacy layer names: which code page their bytes read best in.
 #include "LegacyName.h"
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// NameSink: takes the names of a document while it is read.
 #pragma once
 
 #include <cstddef>

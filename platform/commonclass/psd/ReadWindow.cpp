@@ -1,3 +1,4 @@
+// ReadWindow: the next stretch read, and how wide it is.
 #include "ReadWindow.h"
 #include <algorithm>
 #include <cstring>

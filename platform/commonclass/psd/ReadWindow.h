@@ -1,3 +1,4 @@
+// ReadWindow: a window of bytes that moves forward over a source.
 #pragma once
 
 #include "ByteSource.h"
@@ -8,15 +9,15 @@ namespace _qv_commonclass::psd {
 // document looks like: wide where the interesting bytes lie close together, narrow where long stretches
 // between them are skipped, because there most of a wide window would be read for nothing.
 //
-// An object holds its bytes itself and is meant for the stack: a heap gives large blocks back to the system after each
-// document, and getting them again costs more than the reading.
+// An object holds its bytes itself and is meant for the stack: a heap gives large blocks back to the system
+// after each document, and getting them again costs more than the reading.
 class ReadWindow {
   public:
     static constexpr std::size_t kNarrowBytes = 4 * 1024;
     // As much as stays in the processor's nearest cache; more saves few reads.
     static constexpr std::size_t kWideBytes = 32 * 1024;
-    // Reading that much costs what two to three separate reads cost, so a skip pays for a read of its own from
-    // about this length on.
+    // Reading that much costs what two to three separate reads cost, so a skip pays for a read of its own
+    // from about this length on.
     static constexpr std::uint64_t kLongSkipBytes = 12 * 1024;
     static constexpr std::size_t kMaxRequestBytes = 16 * 1024;
 
@@ -54,7 +55,8 @@ class ReadWindow {
     std::size_t m_span = kNarrowBytes / 2;
     bool m_sawLongSkip = false;
     bool m_failed = false;
-    // What is kept of the old window is shorter than a request. Not initialised: most documents need little of it.
+    // What is kept of the old window is shorter than a request. Not initialised: most documents need little
+    // of it.
     std::uint8_t m_buffer[kWideBytes + kMaxRequestBytes];
 };
 

@@ -1,3 +1,4 @@
+// TaggedBlocks: which keys have a long length.
 #include "TaggedBlocks.h"
 #include <algorithm>
 #include <iterator>

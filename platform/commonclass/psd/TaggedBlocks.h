@@ -1,3 +1,4 @@
+// TaggedBlocks: a walk along blocks of the form signature, key, length, data.
 #pragma once
 
 #include "ByteCursor.h"
@@ -34,8 +35,8 @@ class TaggedBlocks {
     TaggedBlocks(const ByteCursor& stretch, LengthWidth width, std::uint32_t& budget) noexcept
         : m_rest(stretch), m_width(width), m_budget(budget) {}
 
-    // The next block; false at the end of the walk. Nothing called from here knows the walk itself, so that its position
-    // stays in a register: documents hold ten blocks and more for each layer.
+    // The next block; false at the end of the walk. Nothing called from here knows the walk itself, so that
+    // its position stays in a register: documents hold ten blocks and more for each layer.
     bool next(TaggedBlock& block) noexcept {
         if (m_budget == 0)
             return false;

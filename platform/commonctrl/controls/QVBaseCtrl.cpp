@@ -1,31 +1,12 @@
 #include "QVBaseCtrl.h"
 
 #include "QVSkin.h"
-#include "skin/QVSkinBroadcast.h"
-
-#include <algorithm>
-#include <vector>
+#include "skin/SkinnedWindows.h"
 
 namespace _qv_commonctrl {
 
-namespace {
-
-constexpr wchar_t kSkinChangeMessage[] = L"QVCommonCtrl.SkinChange";
-
-std::vector<CQVBaseCtrl*>& AttachedControls() {
-    static std::vector<CQVBaseCtrl*> controls;
-    return controls;
-}
-
-bool IsAttached(const CQVBaseCtrl* control) {
-    const auto& controls = AttachedControls();
-    return std::find(controls.begin(), controls.end(), control) != controls.end();
-}
-
-} // namespace
-
 UINT QV_GetSkinChangeMessage() {
-    static const UINT message = ::RegisterWindowMessageW(kSkinChangeMessage);
+    static const UINT message = ::RegisterWindowMessageW(L"QVCommonCtrl.SkinChange");
     return message;
 }
 
@@ -41,12 +22,16 @@ void CQVBaseCtrl::AttachSkin(CWnd* wnd) {
         return;
     }
     m_pSkinWnd = wnd;
-    if (!IsAttached(this))
-        AttachedControls().push_back(this);
+    EnterSkinnedWindow(this);
+}
+
+void CQVBaseCtrl::AttachSkinAndFont(CWnd* wnd) {
+    AttachSkin(wnd);
+    NoteSkinFont(reinterpret_cast<HFONT>(::SendMessageW(wnd->GetSafeHwnd(), WM_GETFONT, 0, 0)));
 }
 
 void CQVBaseCtrl::DetachSkin() {
-    std::erase(AttachedControls(), this);
+    LeaveSkinnedWindow(this);
     m_pSkinWnd = nullptr;
 }
 
@@ -70,26 +55,6 @@ void CQVBaseCtrl::NoteSkinFont(HFONT font) {
             m_nFontIndex = index;
             return;
         }
-    }
-}
-
-void QV_BroadcastSkinChange() {
-    // A handler may destroy controls or make new ones, so the list is copied and every entry is looked up
-    // again.
-    const std::vector<CQVBaseCtrl*> controls = AttachedControls();
-    for (CQVBaseCtrl* control : controls) {
-        if (!IsAttached(control))
-            continue;
-        const HWND wnd = control->GetSkinWnd()->GetSafeHwnd();
-        if (!wnd)
-            continue;
-        control->OnSkinChange(0, wnd);
-        if (::IsWindow(wnd))
-            ::SendMessageW(wnd, QV_GetSkinChangeMessage(), 0, 0);
-    }
-    for (CQVBaseCtrl* control : controls) {
-        if (IsAttached(control) && control->GetSkinWnd()->GetSafeHwnd())
-            ::RedrawWindow(*control->GetSkinWnd(), nullptr, nullptr, RDW_UPDATENOW);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "QVButton.h"
 
-#include "QVButtonImpl.h"
+#include "ButtonFace.h"
+#include "NativePaintPause.h"
 
 namespace _qv_commonctrl {
 
@@ -27,26 +28,25 @@ bool DrawsAtOnce(UINT message) {
 
 } // namespace
 
-CQVButton::CQVButton() : m_pImpl(new CQVButtonImpl(*this)) {
+CQVButton::CQVButton() : m_pFace(new ButtonFace(*this)) {
 }
 
 CQVButton::~CQVButton() {
     if (m_hWnd)
         DestroyWindow();
-    delete m_pImpl;
+    delete m_pFace;
 }
 
 void CQVButton::PreSubclassWindow() {
     CButton::PreSubclassWindow();
-    AttachSkin(this);
-    NoteSkinFont(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    AttachSkinAndFont(this);
 }
 
 BOOL CQVButton::SetImageList(LPCWSTR path, int states) {
-    const bool loaded = m_pImpl->image.Load(path, states, QV_GetWindowDpi(m_hWnd));
+    const bool loaded = m_pFace->image.Load(path, states, QV_GetWindowDpi(m_hWnd));
     if (!loaded)
-        m_pImpl->image.Clear();
-    m_pImpl->ApplyAutoSize();
+        m_pFace->image.Clear();
+    m_pFace->ApplyAutoSize();
     Invalidate(FALSE);
     return loaded;
 }
@@ -60,14 +60,14 @@ int CQVButton::GetCheck() const {
 }
 
 void CQVButton::SetAutoSize(BOOL enable) {
-    m_pImpl->autoSize = enable != FALSE;
-    m_pImpl->ApplyAutoSize();
+    m_pFace->autoSize = enable != FALSE;
+    m_pFace->ApplyAutoSize();
 }
 
 void CQVButton::OnSkinChange(UINT reason, HWND wnd) {
-    m_pImpl->image.Reload(QV_GetWindowDpi(m_hWnd));
+    m_pFace->image.Reload(QV_GetWindowDpi(m_hWnd));
     CQVBaseCtrl::OnSkinChange(reason, wnd);
-    m_pImpl->ApplyAutoSize();
+    m_pFace->ApplyAutoSize();
 }
 
 BOOL CQVButton::HandleCheckOfPushButton(UINT message, WPARAM wParam, LRESULT& result) {
@@ -76,31 +76,31 @@ BOOL CQVButton::HandleCheckOfPushButton(UINT message, WPARAM wParam, LRESULT& re
         return FALSE;
     if (message == BM_SETCHECK) {
         const int check = wParam != BST_UNCHECKED;
-        if (check != m_pImpl->pushCheck) {
-            m_pImpl->pushCheck = check;
+        if (check != m_pFace->pushCheck) {
+            m_pFace->pushCheck = check;
             Invalidate(FALSE);
         }
         result = 0;
         return TRUE;
     }
-    result = m_pImpl->pushCheck;
+    result = m_pFace->pushCheck;
     return message == BM_GETCHECK;
 }
 
 LRESULT CQVButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    using Kind = CQVButtonImpl::Kind;
+    using Kind = ButtonFace::Kind;
     LRESULT result = 0;
     if ((message == BM_SETCHECK || message == BM_GETCHECK) &&
         HandleCheckOfPushButton(message, wParam, result))
         return result;
-    if (!m_hWnd || m_pImpl->GetKind() == Kind::Native)
+    if (!m_hWnd || m_pFace->GetKind() == Kind::Native)
         return CButton::WindowProc(message, wParam, lParam);
     if (message == BM_SETSTYLE && LOWORD(wParam) == LOWORD(GetStyle())) { // dialogs repeat it time and again
         if (lParam)
             Invalidate(FALSE);
         return 0;
     }
-    if (m_pImpl->hot.Follow(m_hWnd, message))
+    if (m_pFace->hot.Follow(m_hWnd, message))
         Invalidate(FALSE);
     switch (message) {
     case WM_ERASEBKGND:
@@ -127,23 +127,23 @@ LRESULT CQVButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void CQVButton::OnSkinPaint(WPARAM wParam) {
-    if (m_pImpl->GetKind() != CQVButtonImpl::Kind::Group || wParam) {
-        PaintBuffered(m_hWnd, wParam, [this](CDC* dc, const CRect& client) { m_pImpl->Paint(dc, client); });
+    if (m_pFace->GetKind() != ButtonFace::Kind::Group || wParam) {
+        PaintBuffered(m_hWnd, wParam, [this](CDC* dc, const CRect& client) { m_pFace->Paint(dc, client); });
         return;
     }
     CRect client;
     GetClientRect(client);
     CPaintDC target(this);
-    m_pImpl->ExcludeSiblings(&target);
+    m_pFace->ExcludeSiblings(&target);
     CQVMemoDC picture(&target, client);
-    m_pImpl->Paint(&picture, client);
+    m_pFace->Paint(&picture, client);
 }
 
 void CQVButton::AfterChange(UINT message, WPARAM wParam) {
     if (message == WM_SETFONT)
         NoteSkinFont(reinterpret_cast<HFONT>(wParam));
     if (message == WM_SETFONT || message == WM_SETTEXT)
-        m_pImpl->ApplyAutoSize();
+        m_pFace->ApplyAutoSize();
     if (message == BM_SETSTATE) // the user's press shows before anything else happens
         UpdateWindow();
 }

@@ -1,8 +1,9 @@
 #include "QVEdit.h"
 
-#include "frame/QVControlFactory.h"
-#include "QVCtrlSupport.h"
+#include "ControlSupport.h"
+#include "module/Guards.h"
 #include "QVReplaceWnd.h"
+#include "skin/SkinBrushPool.h"
 
 #include <algorithm>
 
@@ -16,14 +17,12 @@ constexpr int kFrameLines = 2;
 constexpr int kTextInsetPx = 3; // between the frame and the text of a single-line field
 
 bool IsInsideCombo(HWND wnd) {
-    wchar_t name[16] = L"";
-    ::GetClassNameW(::GetParent(wnd), name, 16);
-    return ::lstrcmpiW(name, WC_COMBOBOXW) == 0;
+    return IsWindowOfClass(::GetParent(wnd), WC_COMBOBOXW);
 }
 
 int LineHeight(HWND wnd) {
     CClientDC dc(CWnd::FromHandle(wnd));
-    DcSelection selection(&dc, WindowFontOf(wnd));
+    const DcSelection selection(dc, WindowFontOf(wnd));
     TEXTMETRICW metrics = {};
     dc.GetTextMetrics(&metrics);
     return metrics.tmHeight;
@@ -62,10 +61,6 @@ void CQVEdit::TakeOverFrame() {
     }
     if ((GetStyle() & ES_MULTILINE) && (GetStyle() & (WS_VSCROLL | WS_HSCROLL)))
         QV_ReplaceWnd(m_hWnd);
-}
-
-void CQVEdit::OnSkinChange(UINT reason, HWND wnd) {
-    CQVBaseCtrl::OnSkinChange(reason, wnd);
 }
 
 bool CQVEdit::IsReadOnly() const {

@@ -1,7 +1,7 @@
-#include "QVListControls.h"
+#include "QVProgressCtrl.h"
 
-#include "QVMemoDC.h"
-#include "paint/QVPaintKit.h"
+#include "paint/PaintKit.h"
+#include "QVPaintMemoDC.h"
 
 #include <algorithm>
 

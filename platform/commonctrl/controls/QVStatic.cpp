@@ -1,6 +1,7 @@
 #include "QVStatic.h"
 
-#include "QVCtrlSupport.h"
+#include "ControlSupport.h"
+#include "NativePaintPause.h"
 
 namespace _qv_commonctrl {
 
@@ -104,13 +105,10 @@ CQVStatic::~CQVStatic() = default;
 
 void CQVStatic::PreSubclassWindow() {
     CStatic::PreSubclassWindow();
-    AttachSkin(this);
-    NoteSkinFont(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    AttachSkinAndFont(this);
 }
 
-void CQVStatic::SetTextStyle(int style) {
-    m_nTextStyle = style;
-    Invalidate(FALSE);
+void CQVStatic::SetTextStyle(int) {
 }
 
 void CQVStatic::SetBkColorIndex(int colorIndex) {
@@ -121,10 +119,6 @@ void CQVStatic::SetBkColorIndex(int colorIndex) {
 void CQVStatic::SetTextColorIndex(int colorIndex) {
     m_nTextColorIndex = colorIndex;
     Invalidate(FALSE);
-}
-
-void CQVStatic::OnSkinChange(UINT reason, HWND wnd) {
-    CQVBaseCtrl::OnSkinChange(reason, wnd);
 }
 
 void CQVStatic::Paint(CDC* dc, const CRect& client) const {

@@ -1,4 +1,4 @@
-#include "QVDirCtrl.h"
+#include "QVComboDTBox.h"
 
 namespace _qv_commonctrl {
 

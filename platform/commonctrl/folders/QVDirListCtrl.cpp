@@ -1,10 +1,11 @@
-#include "QVDirCtrl.h"
+#include "QVDirListCtrl.h"
 
 #include "QVDict.h"
-#include "QVDirIcons.h"
-#include "QVFolderListing.h"
-#include "QVFolderOrder.h"
-#include "module/QVRedrawPause.h"
+#include "DirIcons.h"
+#include "FolderListing.h"
+#include "FolderOrder.h"
+#include "FolderPath.h"
+#include "module/RedrawPause.h"
 
 #include <shlwapi.h>
 

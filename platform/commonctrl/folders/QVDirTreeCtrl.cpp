@@ -1,25 +1,27 @@
-#include "QVDirTreeImpl.h"
+#include "QVDirTreeCtrl.h"
+
+#include "DirTreeModel.h"
 
 namespace _qv_commonctrl {
 
 IMPLEMENT_DYNAMIC(CQVDirTreeCtrl, CQVTreeCtrl)
 
-CQVDirTreeCtrl::CQVDirTreeCtrl() : m_pImpl(new CQVDirTreeImpl(*this)) {
+CQVDirTreeCtrl::CQVDirTreeCtrl() : m_pModel(new DirTreeModel(*this)) {
 }
 
 CQVDirTreeCtrl::~CQVDirTreeCtrl() {
-    delete m_pImpl;
+    delete m_pModel;
 }
 
 void CQVDirTreeCtrl::SetTreeCtrl(int kind) {
-    m_pImpl->SetContent(kind == static_cast<int>(FolderContent::FoldersAndFiles)
-                            ? FolderContent::FoldersAndFiles
-                            : FolderContent::FoldersOnly);
+    m_pModel->SetContent(kind == static_cast<int>(FolderContent::FoldersAndFiles)
+                             ? FolderContent::FoldersAndFiles
+                             : FolderContent::FoldersOnly);
 }
 
 BOOL CQVDirTreeCtrl::SetDesktopFolder() {
     try {
-        return m_hWnd && m_pImpl->SetDesktop();
+        return m_hWnd && m_pModel->SetDesktop();
     } catch (const std::exception&) { // memory ran out
         return FALSE;
     }
@@ -27,7 +29,7 @@ BOOL CQVDirTreeCtrl::SetDesktopFolder() {
 
 BOOL CQVDirTreeCtrl::SetPathName(LPCWSTR path) {
     try {
-        return m_hWnd && path && *path && m_pImpl->Select(path);
+        return m_hWnd && path && *path && m_pModel->Select(path);
     } catch (const std::exception&) {
         return FALSE;
     }
@@ -35,11 +37,11 @@ BOOL CQVDirTreeCtrl::SetPathName(LPCWSTR path) {
 
 CString CQVDirTreeCtrl::GetPathName() const {
     const HTREEITEM selected = m_hWnd ? GetSelectedItem() : nullptr;
-    return selected ? m_pImpl->PathOf(selected).c_str() : L"";
+    return selected ? m_pModel->Items().PathOf(selected).c_str() : L"";
 }
 
 void CQVDirTreeCtrl::OnSkinChange(UINT reason, HWND wnd) {
-    m_pImpl->RefreshIcons();
+    m_pModel->Items().RefreshIcons();
     CQVTreeCtrl::OnSkinChange(reason, wnd);
 }
 
@@ -50,36 +52,36 @@ BOOL CQVDirTreeCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, L
     switch (notification->hdr.code) {
     case TVN_ITEMEXPANDINGW:
         if (notification->action & TVE_EXPAND) {
-            *result = m_pImpl->OnExpanding(notification->itemNew.hItem);
+            *result = m_pModel->OnExpanding(notification->itemNew.hItem);
             return *result != 0; // the parent hears of it when there is something to expand
         }
         break;
     case TVN_ITEMEXPANDEDW:
-        m_pImpl->OnExpanded(notification->itemNew.hItem, (notification->action & TVE_EXPAND) != 0);
+        m_pModel->OnExpanded(notification->itemNew.hItem, (notification->action & TVE_EXPAND) != 0);
         break;
     case TVN_DELETEITEMW:
-        m_pImpl->OnItemDeleted(notification->itemOld.hItem);
+        m_pModel->OnItemDeleted(notification->itemOld.hItem);
         break;
     }
     return CQVTreeCtrl::OnChildNotify(message, wParam, lParam, result);
 }
 
 LRESULT CQVDirTreeCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == CQVDirTreeImpl::ListedMessage()) {
-        m_pImpl->OnListed(static_cast<UINT>(wParam));
+    if (message == DirTreeModel::ListedMessage()) {
+        m_pModel->OnListed(static_cast<UINT>(wParam));
         return 0;
     }
     if (message == WM_KEYDOWN && wParam == VK_F5) {
-        m_pImpl->ListAgain(GetSelectedItem());
+        m_pModel->ListAgain(GetSelectedItem());
         return 0;
     }
-    if (message == WM_SETCURSOR && LOWORD(lParam) == HTCLIENT && m_pImpl->IsListing()) {
+    if (message == WM_SETCURSOR && LOWORD(lParam) == HTCLIENT && m_pModel->IsListing()) {
         ::SetCursor(::LoadCursorW(nullptr, IDC_APPSTARTING));
         return TRUE;
     }
     const LRESULT result = CQVTreeCtrl::WindowProc(message, wParam, lParam);
     if (message == WM_NCDESTROY)
-        m_pImpl->OnWindowGone();
+        m_pModel->OnWindowGone();
     return result;
 }
 

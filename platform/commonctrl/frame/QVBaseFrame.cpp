@@ -1,47 +1,43 @@
 #include "QVBaseFrame.h"
 
-#include "QVFrameImpl.h"
+#include "NonClientFrame.h"
 
 namespace _qv_commonctrl {
 
-CQVBaseFrame::CQVBaseFrame() : m_pImpl(new CQVFrameImpl) {
+CQVBaseFrame::CQVBaseFrame() : m_pFrame(new NonClientFrame) {
 }
 
 CQVBaseFrame::~CQVBaseFrame() {
-    delete m_pImpl;
+    delete m_pFrame;
 }
 
 void CQVBaseFrame::AttachFrame(CWnd* wnd) {
     if (!wnd || !wnd->GetSafeHwnd())
         return;
     AttachSkin(wnd);
-    m_pImpl->Attach(wnd->GetSafeHwnd());
+    m_pFrame->Attach(wnd->GetSafeHwnd());
 }
 
 void CQVBaseFrame::DetachFrame() {
     DetachSkin();
-    m_pImpl->Detach();
+    m_pFrame->Detach();
 }
 
 void CQVBaseFrame::SetAutoSize(BOOL enable, CWnd* wnd, DWORD) {
-    m_pImpl->SetAutoSize(enable != FALSE, wnd->GetSafeHwnd());
+    m_pFrame->SetAutoSize(enable != FALSE, wnd->GetSafeHwnd());
 }
 
 void CQVBaseFrame::SetChildWindow(CWnd* child, int mode, DWORD flags) {
-    if (child && m_pImpl->Window())
-        m_pImpl->RegisterChild(child->GetSafeHwnd(), mode, flags);
+    if (child && m_pFrame->Window())
+        m_pFrame->RegisterChild(child->GetSafeHwnd(), mode, flags);
 }
 
 CRect CQVBaseFrame::GetFrameEdges() const {
-    return m_pImpl->Edges();
+    return m_pFrame->Edges();
 }
 
 BOOL CQVBaseFrame::HandleFrameMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
-    return m_pImpl->Handle(message, wParam, lParam, result);
-}
-
-void CQVBaseFrame::OnSkinChange(UINT reason, HWND wnd) {
-    CQVBaseCtrl::OnSkinChange(reason, wnd);
+    return m_pFrame->Handle(message, wParam, lParam, result);
 }
 
 } // namespace _qv_commonctrl

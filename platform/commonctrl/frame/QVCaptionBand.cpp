@@ -1,7 +1,7 @@
 #include "QVCaptionBand.h"
 
-#include "paint/QVPaintKit.h"
-#include "skin/QVSkinPicture.h"
+#include "paint/PaintKit.h"
+#include "skin/SkinPicture.h"
 
 #include <algorithm>
 

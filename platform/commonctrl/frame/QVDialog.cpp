@@ -1,8 +1,8 @@
 #include "QVDialog.h"
 
-#include "QVControlFactory.h"
+#include "ControlFactory.h"
 #include "QVDict.h"
-#include "paint/QVPaintKit.h"
+#include "paint/PaintKit.h"
 
 namespace _qv_commonctrl {
 

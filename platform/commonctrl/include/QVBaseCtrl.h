@@ -5,8 +5,8 @@
 
 namespace _qv_commonctrl {
 
-// Sent (never posted) to every skinned window on a change of skin; wParam and lParam 0.
-// The value is from RegisterWindowMessageW, so it never meets a private message of a host.
+// Sent (never posted) to every skinned window on a change of skin; wParam and lParam 0. The value is from
+// RegisterWindowMessageW, so it never meets a private message of a host.
 QVCOMMONCTRL_API UINT QV_GetSkinChangeMessage();
 
 // A mix-in base beside a framework window class:
@@ -28,15 +28,17 @@ class QVCOMMONCTRL_API CQVBaseCtrl {
     void DetachSkin();
     CWnd* GetSkinWnd() const { return m_pSkinWnd; }
 
-    // The skin has changed: colours, fonts and images read before are void. The base invalidates the window
-    // with its frame. `reason` is 0; `wnd` is the window the object was attached with.
-    // A font of the skin that was noted is set anew.
+    // The skin has changed: colours, fonts and images read before are void. `reason` is 0; `wnd` is the
+    // window the object was attached with. The base sets a font of the skin that was noted anew and
+    // invalidates the window with its frame.
     virtual void OnSkinChange(UINT reason, HWND wnd);
 
   protected:
     // To be called with the font of each WM_SETFONT: remembers which of the skin's fonts it is, if any, since
     // the handle is void after a change of skin.
     void NoteSkinFont(HFONT font);
+    // AttachSkin, and NoteSkinFont for the font that the window has.
+    void AttachSkinAndFont(CWnd* wnd);
 
   private:
     CWnd* m_pSkinWnd = nullptr;

@@ -4,8 +4,6 @@
 
 #include "QVBaseCtrl.h"
 
-#include <vector>
-
 namespace _qv_commonctrl {
 
 // How a registered child follows its frame's client area when that is resized (the `mode` of SetChildWindow).
@@ -50,8 +48,6 @@ class QVCOMMONCTRL_API CQVBaseFrame : public CQVBaseCtrl {
     // top (edge and caption band) and bottom.
     CRect GetFrameEdges() const;
 
-    void OnSkinChange(UINT reason, HWND wnd) override;
-
   protected:
     // To be called by the window class that mixes the frame in. HandleFrameMessage gets every message before
     // the window class does; TRUE means handled and `result` is the answer.
@@ -60,8 +56,7 @@ class QVCOMMONCTRL_API CQVBaseFrame : public CQVBaseCtrl {
     BOOL HandleFrameMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
   private:
-    friend class CQVFrameImpl;
-    class CQVFrameImpl* m_pImpl;
+    class NonClientFrame* m_pFrame;
 };
 
 } // namespace _qv_commonctrl

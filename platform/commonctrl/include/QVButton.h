@@ -42,7 +42,7 @@ class QVCOMMONCTRL_API CQVButton : public CButton, public CQVBaseCtrl {
     void OnSkinPaint(WPARAM wParam);
     void AfterChange(UINT message, WPARAM wParam);
 
-    class CQVButtonImpl* m_pImpl;
+    class ButtonFace* m_pFace;
 };
 
 } // namespace _qv_commonctrl

@@ -3,12 +3,13 @@
 
 #include "QVBaseFrame.h"
 
+#include <vector>
+
 namespace _qv_commonctrl {
 
 // A CDialog with a skinned frame. At initialisation it
 //  - sizes the window so that the client area is the template's;
-//  - passes the caption and the texts of the template's controls (not of edits and combo boxes, whose text is
-//  the
+//  - passes the caption and the texts of the template's controls (not of edits and combo boxes, whose text is the
 //    user's) through the dictionary call-back, when one is set;
 //  - subclasses the template's buttons, check boxes, radio buttons, group boxes, statics, edits, combo boxes,
 //    lists, trees and progress bars that no object owns yet into skinned ones (it owns these objects);
@@ -25,6 +26,7 @@ class QVCOMMONCTRL_API CQVDialog : public CDialog, public CQVBaseFrame {
     ~CQVDialog() override;
 
     BOOL OnInitDialog() override;
+    // This and DoDataExchange are CDialog's; they are here for dialogs that forward to this class.
     BOOL PreTranslateMessage(MSG* msg) override;
     void OnSkinChange(UINT reason, HWND wnd) override;
 

@@ -17,8 +17,6 @@ class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     CQVEdit();
     ~CQVEdit() override;
 
-    void OnSkinChange(UINT reason, HWND wnd) override;
-
   protected:
     void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

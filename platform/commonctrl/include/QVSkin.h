@@ -8,7 +8,7 @@
 // from the default skin that is built into the DLL, and one line in the debugger output names it once.
 #pragma once
 
-#include "QVCommonCtrlDef.h"
+#include "QVDpi.h"
 
 namespace _qv_commonctrl {
 
@@ -84,9 +84,9 @@ enum QVSkinBrush : int {
     QVBRUSH_LIST = 2,   // ground of lists and of the edit fields in them (colour 122)
 };
 
-// Text styles for SetTextStyle of statics and the tracker: which colour and font a text is drawn with.
+// Text styles, as SetTextStyle of a static text takes them.
 enum QVTextStyle : int {
-    QVTEXT_LABEL = 18, // label on the window ground: colour 9, font 13
+    QVTEXT_LABEL = 18, // label on the window ground
 };
 
 // Kinds of image for QV_LoadImageEx: how many state frames of equal width lie side by side.
@@ -155,14 +155,5 @@ QVCOMMONCTRL_API void QV_DrawImage(CDC* dc, const CQVSkinImage* image, int frame
 // A lighter shade for borders: d = 30 * max(255-R, 255-G, 255-B) / 255 (integer division), every channel
 // raised by d and capped at 255.
 QVCOMMONCTRL_API COLORREF QV_LightenColor(COLORREF color);
-
-// Scales a length in pixels at 96 DPI to `dpi`, rounded half away from zero. 96 is the identity.
-QVCOMMONCTRL_API int QV_ScaleForDpi(int px96, UINT dpi);
-
-// The DPI of a window's monitor; 96 when the window is null or the system cannot tell.
-QVCOMMONCTRL_API UINT QV_GetWindowDpi(HWND wnd);
-
-// QV_ScaleForDpi with the window's DPI.
-QVCOMMONCTRL_API int QV_ScalePx(HWND wnd, int px96);
 
 } // namespace _qv_commonctrl

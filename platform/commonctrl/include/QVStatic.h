@@ -6,6 +6,8 @@
 
 namespace _qv_commonctrl {
 
+// Wears a STATIC window: texts, rectangles, frames and lines are drawn with the skin; pictures and
+// owner-drawn ones stay the system's.
 class QVCOMMONCTRL_API CQVStatic : public CStatic, public CQVBaseCtrl {
     DECLARE_DYNAMIC(CQVStatic)
 
@@ -13,14 +15,12 @@ class QVCOMMONCTRL_API CQVStatic : public CStatic, public CQVBaseCtrl {
     CQVStatic();
     ~CQVStatic() override;
 
-    // Draws the text as a QVTextStyle says (colour and font).
+    // Takes a QVTextStyle. There is only the label's, which every static text has: nothing changes.
     void SetTextStyle(int style);
     // Ground by skin colour index; -1 (the default) asks the parent by WM_CTLCOLORSTATIC.
     void SetBkColorIndex(int colorIndex);
-    // Text by skin colour index; -1: as the text style says.
+    // Text by skin colour index; -1 (the default): QVCLR_TEXT_WINDOW. A disabled text is QVCLR_TEXT_DISABLED.
     void SetTextColorIndex(int colorIndex);
-
-    void OnSkinChange(UINT reason, HWND wnd) override;
 
   protected:
     void PreSubclassWindow() override;
@@ -30,7 +30,6 @@ class QVCOMMONCTRL_API CQVStatic : public CStatic, public CQVBaseCtrl {
     void Paint(CDC* dc, const CRect& client) const;
     void PaintText(CDC* dc, const CRect& client) const;
 
-    int m_nTextStyle = QVTEXT_LABEL;
     int m_nBkColorIndex = -1;
     int m_nTextColorIndex = -1;
 };

@@ -1,4 +1,6 @@
-#include "QVSkin.h"
+#include "QVDpi.h"
+
+#include "Guards.h"
 
 namespace _qv_commonctrl {
 
@@ -9,12 +11,7 @@ UINT AskSystem(HWND wnd) {
     using AskWindow = UINT(WINAPI*)(HWND);
     static const auto askWindow = reinterpret_cast<AskWindow>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
-    if (askWindow)
-        return askWindow(wnd);
-    const HDC dc = GetDC(wnd);
-    const int dpi = GetDeviceCaps(dc, LOGPIXELSX);
-    ReleaseDC(wnd, dc);
-    return static_cast<UINT>(dpi);
+    return askWindow ? askWindow(wnd) : static_cast<UINT>(GetDeviceCaps(ScreenDc(), LOGPIXELSX));
 }
 
 } // namespace

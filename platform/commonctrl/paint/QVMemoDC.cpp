@@ -1,7 +1,5 @@
 #include "QVMemoDC.h"
 
-#include "QVSkin.h"
-
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
@@ -198,15 +196,6 @@ void CQVMemoDC::CopyTransparent(COLORREF key) {
 
 void CQVMemoDC::Cancel() {
     m_bCopied = true;
-}
-
-QVPaintTarget::QVPaintTarget(CWnd* wnd) : m_paint(wnd) {
-    wnd->GetClientRect(m_client);
-}
-
-CQVPaintMemoDC::CQVPaintMemoDC(CWnd* wnd, int groundColor)
-    : QVPaintTarget(wnd), CQVMemoDC(&m_paint, m_client) {
-    FillSolidRect(m_client, QV_GetSysColor(groundColor));
 }
 
 } // namespace _qv_commonctrl

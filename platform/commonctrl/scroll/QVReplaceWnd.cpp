@@ -1,6 +1,6 @@
 #include "QVReplaceWnd.h"
 
-#include "QVScrollSkin.h"
+#include "ScrollSkin.h"
 
 namespace _qv_commonctrl {
 

@@ -1,15 +1,17 @@
 #include "QVSkin.h"
 
-#include "scroll/QVScrollSkin.h"
-#include "QVSkinBroadcast.h"
-#include "QVSkinFont.h"
+#include "CjkText.h"
 #include "QVSkinImage.h"
-#include "QVSkinPicture.h"
-#include "QVSkinStore.h"
+#include "scroll/ScrollSkin.h"
+#include "SkinBrushPool.h"
+#include "SkinFontPool.h"
+#include "SkinImageCache.h"
+#include "SkinnedWindows.h"
+#include "SkinPicture.h"
+#include "SkinStore.h"
 
 #include <algorithm>
 #include <exception>
-#include <map>
 
 namespace _qv_commonctrl {
 
@@ -21,46 +23,6 @@ COLORREF ToColorRef(uint32_t rgb) {
     return RGB((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);
 }
 
-// Brushes by colour. Windows keep the handle that they answered WM_CTLCOLOR with until they repaint, so the
-// brushes of the former skin live until the skin changes once more.
-class BrushPool {
-  public:
-    static BrushPool& Get() {
-        static BrushPool pool;
-        return pool;
-    }
-
-    HBRUSH Find(COLORREF color) {
-        if (m_generation != SkinStore::Get().Generation()) {
-            Drop(m_former);
-            m_former.swap(m_brushes);
-            m_generation = SkinStore::Get().Generation();
-        }
-        HBRUSH& brush = m_brushes[color];
-        if (!brush)
-            brush = CreateSolidBrush(color);
-        return brush;
-    }
-
-    ~BrushPool() {
-        Drop(m_former);
-        Drop(m_brushes);
-    }
-
-  private:
-    using Brushes = std::map<COLORREF, HBRUSH>;
-
-    static void Drop(Brushes& brushes) {
-        for (const auto& [color, brush] : brushes)
-            DeleteObject(brush);
-        brushes.clear();
-    }
-
-    Brushes m_brushes;
-    Brushes m_former;
-    UINT m_generation = 0;
-};
-
 } // namespace
 
 BOOL QV_SetSkinPath(LPCWSTR folder) {
@@ -70,7 +32,7 @@ BOOL QV_SetSkinPath(LPCWSTR folder) {
     } catch (const std::exception&) { // memory ran out: what was read stays
     }
     DropSkinPictures();
-    QV_BroadcastSkinChange();
+    BroadcastSkinChange();
     ScrollSkin::RefreshAll();
     return chosen;
 }
@@ -100,7 +62,7 @@ int QV_GetFontIndex(LPCWSTR text) {
 
 HBRUSH QV_GetSysBrush(int index) {
     const int* color = SkinStore::Get().BrushColor(index);
-    return BrushPool::Get().Find(color ? QV_GetSysColor(*color) : kUnknownColor);
+    return SkinBrushPool::Get().Find(color ? QV_GetSysColor(*color) : kUnknownColor);
 }
 
 CPen* QV_LoadPen(int id) {

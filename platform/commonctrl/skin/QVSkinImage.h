@@ -1,13 +1,10 @@
-// QVSkinImage.h: decoded images of the skin, shared by all who load the same file.
+// QVSkinImage.h: a decoded image of the skin.
 #pragma once
 
-#include "paint/QVPixels.h"
+#include "paint/Pixels.h"
 #include "QVSkin.h"
 
-#include <map>
 #include <memory>
-#include <string>
-#include <tuple>
 
 namespace _qv_commonctrl {
 
@@ -31,26 +28,6 @@ class CQVSkinImage {
     int m_stripWidth;
     int m_height;
     int m_frames;
-};
-
-// Counts the users of each image and drops it with the last one.
-class SkinImageCache {
-  public:
-    static SkinImageCache& Get();
-
-    // Null when neither the file nor a built-in one of the same relative path can be decoded.
-    CQVSkinImage* Load(const std::wstring& path, int frames, int cx, int cy);
-    void Release(CQVSkinImage* image);
-    std::size_t Count() const { return m_entries.size(); }
-
-  private:
-    using Key = std::tuple<UINT, std::wstring, int, int, int>; // skin generation, path, frames, cx, cy
-    struct Entry {
-        std::unique_ptr<CQVSkinImage> image;
-        int users = 0;
-    };
-
-    std::map<Key, Entry> m_entries;
 };
 
 } // namespace _qv_commonctrl

@@ -95,12 +95,12 @@ class QVTimecodeTyping {
     std::wstring m_text;
     QVTextSpan m_selection;
     long long m_frame = 0;
-    long long m_toldFrame = 0;  // the frame that the parent knows
-    long long m_undoFrame = 0;  // the frame before the last change
-    long long m_baseFrame = 0;  // the frame when typing began
-    std::wstring m_entry;       // typed so far over a whole label; empty: nothing
-    int m_fieldDigits = 0;      // digits typed into the selected field of a label so far
-    bool m_isTyping = false;    // the text is the user's and not finished
+    long long m_toldFrame = 0; // the frame that the parent knows
+    long long m_undoFrame = 0; // the frame before the last change
+    long long m_baseFrame = 0; // the frame when typing began
+    std::wstring m_entry;      // typed so far over a whole label; empty: nothing
+    int m_fieldDigits = 0;     // digits typed into the selected field of a label so far
+    bool m_isTyping = false;   // the text is the user's and not finished
 };
 
 } // namespace _qv_extractrl

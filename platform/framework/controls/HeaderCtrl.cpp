@@ -1,4 +1,7 @@
-#include "afxctl_listview.h"
+// CHeaderCtrl: what is more than one message to the header.
+#include "ItemMessages.h"
+#include "handles/HandleOf.h"
+#include "afx/HeaderCtrl.h"
 
 IMPLEMENT_DYNAMIC(CHeaderCtrl, CWnd)
 
@@ -7,16 +10,10 @@ BOOL CHeaderCtrl::GetOrderArray(LPINT piArray, int iCount) {
 }
 
 CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList) {
-    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
-    return CImageList::FromHandle(
-        reinterpret_cast<HIMAGELIST>(SendMessage(HDM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list))));
+    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
+        SendMessage(HDM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(HandleOf(pImageList)))));
 }
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
-        return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
+    return CWnd::OnChildNotify(message, wParam, lParam, pResult) || DispatchDrawItem(*this, message, lParam);
 }

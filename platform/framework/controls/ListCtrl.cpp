@@ -1,4 +1,7 @@
-#include "afxctl_listview.h"
+// CListCtrl: items, places, columns and labels by more than one message to the list view.
+#include "ItemMessages.h"
+#include "handles/HandleOf.h"
+#include "afx/ListCtrl.h"
 
 IMPLEMENT_DYNCREATE(CListCtrl, CWnd)
 
@@ -15,9 +18,9 @@ CImageList* CListCtrl::GetImageList(int nImageList) const {
 }
 
 CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
-    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
-        SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType), reinterpret_cast<LPARAM>(list))));
+    return CImageList::FromHandle(
+        reinterpret_cast<HIMAGELIST>(SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType),
+                                                 reinterpret_cast<LPARAM>(HandleOf(pImageList)))));
 }
 
 BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
@@ -162,10 +165,5 @@ CEdit* CListCtrl::GetEditControl() const {
 }
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
-        return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
+    return CWnd::OnChildNotify(message, wParam, lParam, pResult) || DispatchDrawItem(*this, message, lParam);
 }

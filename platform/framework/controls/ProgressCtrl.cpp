@@ -1,4 +1,5 @@
-#include "afxctl_bars.h"
+// CProgressCtrl: its range.
+#include "afx/ProgressCtrl.h"
 
 IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
 

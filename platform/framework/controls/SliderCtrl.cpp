@@ -1,3 +1,4 @@
-#include "afxctl_bars.h"
+// CSliderCtrl: its class information; all functions are messages.
+#include "afx/SliderCtrl.h"
 
 IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)

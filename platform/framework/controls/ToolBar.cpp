@@ -1,27 +1,36 @@
-#include "afxext.h"
+// CToolBar: creation, the control inside, and buttons by their index.
+#include "afx/ToolBar.h"
 
-IMPLEMENT_DYNAMIC(CToolBar, CToolBarCtrl)
+IMPLEMENT_DYNAMIC(CToolBar, CWnd)
 
 BOOL CToolBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
-    return CToolBarCtrl::Create(dwStyle, CRect(0, 0, 0, 0), pParentWnd, nID);
+    if (!CWnd::Create(TOOLBARCLASSNAMEW, nullptr, dwStyle, CRect(0, 0, 0, 0), pParentWnd, nID))
+        return FALSE;
+    SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    return TRUE;
 }
 
-BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, UINT nID) {
+BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRect, UINT nID) {
     return Create(pParentWnd, dwStyle | dwCtrlStyle, nID);
+}
+
+CToolBarCtrl& CToolBar::GetToolBarCtrl() const {
+    m_control.m_hWnd = m_hWnd;
+    return m_control;
 }
 
 UINT CToolBar::GetItemID(int nIndex) const {
     TBBUTTON button = {};
-    return GetButton(nIndex, &button) ? static_cast<UINT>(button.idCommand) : 0;
+    return GetToolBarCtrl().GetButton(nIndex, &button) ? static_cast<UINT>(button.idCommand) : 0;
 }
 
 void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {
-    SetBitmapSize(sizeImage);
-    SetButtonSize(sizeButton);
+    GetToolBarCtrl().SetBitmapSize(sizeImage);
+    GetToolBarCtrl().SetButtonSize(sizeButton);
 }
 
 CString CToolBar::GetButtonText(int nIndex) const {
-    return GetString(static_cast<int>(GetItemID(nIndex)));
+    return GetToolBarCtrl().GetString(static_cast<int>(GetItemID(nIndex)));
 }
 
 BOOL CToolBar::SetButtonText(int nIndex, LPCTSTR lpszText) {
@@ -29,5 +38,5 @@ BOOL CToolBar::SetButtonText(int nIndex, LPCTSTR lpszText) {
     info.cbSize = sizeof info;
     info.dwMask = TBIF_TEXT;
     info.pszText = const_cast<LPTSTR>(lpszText);
-    return SetButtonInfo(static_cast<int>(GetItemID(nIndex)), &info);
+    return GetToolBarCtrl().SetButtonInfo(static_cast<int>(GetItemID(nIndex)), &info);
 }

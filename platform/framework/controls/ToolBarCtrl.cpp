@@ -1,4 +1,7 @@
-#include "afxctl_bars.h"
+// CToolBarCtrl: creation, image list, texts of buttons.
+#include "handles/HandleOf.h"
+#include "text/FetchedText.h"
+#include "afx/ToolBarCtrl.h"
 
 IMPLEMENT_DYNAMIC(CToolBarCtrl, CWnd)
 
@@ -10,17 +13,11 @@ BOOL CToolBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UIN
 }
 
 CImageList* CToolBarCtrl::SetImageList(CImageList* pImageList) {
-    const HIMAGELIST list = pImageList ? pImageList->m_hImageList : nullptr;
-    return CImageList::FromHandle(
-        reinterpret_cast<HIMAGELIST>(SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list))));
+    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
+        SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(HandleOf(pImageList)))));
 }
 
 CString CToolBarCtrl::GetString(int nID) const {
-    CString text;
-    const int length = Ask(TB_GETBUTTONTEXTW, nID);
-    if (length > 0) {
-        const int stored = Ask(TB_GETBUTTONTEXTW, nID, text.GetBuffer(length));
-        text.ReleaseBuffer(stored < 0 ? 0 : stored);
-    }
-    return text;
+    return FetchedText(Ask(TB_GETBUTTONTEXTW, nID),
+                       [&](LPWSTR buffer) { return Ask(TB_GETBUTTONTEXTW, nID, buffer); });
 }

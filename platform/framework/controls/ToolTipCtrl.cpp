@@ -1,18 +1,19 @@
-#include "afxctl_bars.h"
-#include "afxstat_.h"
+// CToolTipCtrl: creation, and the tools it speaks for.
+#include "handles/HandleOf.h"
+#include "afx/Resources.h"
+#include "afx/ToolTipCtrl.h"
 
 IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
 BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) {
     return CWnd::CreateEx(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT,
-                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
-                          pParentWnd ? pParentWnd->m_hWnd : nullptr, nullptr);
+                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, HandleOf(pParentWnd), nullptr);
 }
 
 void CToolTipCtrl::FillInToolInfo(TOOLINFO& ti, const CWnd* pWnd, UINT_PTR nIDTool) const {
     ti = {};
     ti.cbSize = sizeof ti;
-    const HWND hWnd = pWnd ? pWnd->m_hWnd : nullptr;
+    const HWND hWnd = HandleOf(pWnd);
     if (nIDTool == 0) {
         ti.hwnd = ::GetParent(hWnd);
         ti.uFlags = TTF_IDISHWND;

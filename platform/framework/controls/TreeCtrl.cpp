@@ -1,4 +1,6 @@
-#include "afxctl_tree.h"
+// CTreeCtrl: items by more than one message to the tree view.
+#include "handles/HandleOf.h"
+#include "afx/TreeCtrl.h"
 
 #include <cstring>
 
@@ -19,9 +21,8 @@ TVITEM ItemOf(HTREEITEM hItem, UINT mask) {
 } // namespace
 
 CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
-    return CImageList::FromHandle(
-        reinterpret_cast<HIMAGELIST>(Tree(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType),
-                                          pImageList ? pImageList->m_hImageList : nullptr)));
+    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(
+        Tree(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType), HandleOf(pImageList))));
 }
 
 HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {

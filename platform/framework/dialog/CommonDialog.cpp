@@ -1,4 +1,5 @@
-#include "afxdlgs.h"
+// CCommonDialog: OK and cancel are the system's.
+#include "afx/CommonDialog.h"
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 

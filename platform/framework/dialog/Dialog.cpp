@@ -1,6 +1,13 @@
-#include "window/ThreadState.h"
-#include "afxapp_.h"
-#include "afxdlg_.h"
+// CDialog: made from a template, modeless or modal, what happens inside, and its end.
+#include "DialogTemplate.h"
+#include "DisabledOwner.h"
+#include "handles/HandleOf.h"
+#include "handles/TemporaryScope.h"
+#include "window/CreationHook.h"
+#include "window/WndWatch.h"
+#include "afx/Dialog.h"
+#include "afx/Resources.h"
+#include "afx/WinThread.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
@@ -23,29 +30,6 @@ INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
     // OnInitDialog runs inside WM_INITDIALOG's delivery, where exceptions are caught.
     auto* const dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hWnd));
     return dialog ? dialog->OnInitDialog() : TRUE;
-}
-
-// The parts of a template header that matter here, for both kinds of templates.
-struct TemplateHeader {
-    DWORD style;
-    short x;
-    short y;
-};
-
-TemplateHeader ReadHeader(LPCDLGTEMPLATE lpTemplate) {
-    constexpr WORD kExtendedMark = 0xFFFF;
-    const auto* const words = reinterpret_cast<const WORD*>(lpTemplate);
-    if (words[1] != kExtendedMark)
-        return {lpTemplate->style, lpTemplate->x, lpTemplate->y};
-    // version, mark, help id, extended style (2 words each for the latter two), style, item count, x, y
-    return {static_cast<DWORD>(words[6]) | (static_cast<DWORD>(words[7]) << 16), static_cast<short>(words[9]),
-            static_cast<short>(words[10])};
-}
-
-// Where a dialog stands: a template that says no place of its own is centred over the owner.
-bool WantsCentre(const TemplateHeader& header) {
-    constexpr DWORD kPlacedStyles = DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE | WS_CHILD;
-    return !(header.style & kPlacedStyles) && header.x == 0 && header.y == 0;
 }
 
 } // namespace
@@ -71,19 +55,13 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
 
 BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     m_lpszTemplateName = lpszTemplateName;
-    const HINSTANCE hInst = AfxFindResourceHandle(lpszTemplateName, RT_DIALOG);
-    const HRSRC resource = ::FindResourceW(hInst, lpszTemplateName, RT_DIALOG);
-    const HGLOBAL memory = resource ? ::LoadResource(hInst, resource) : nullptr;
-    const void* const found = memory ? ::LockResource(memory) : nullptr;
-    return CreateIndirect(static_cast<LPCDLGTEMPLATE>(found), pParentWnd, nullptr, hInst);
+    const DialogTemplate found = FindDialogTemplate(lpszTemplateName);
+    return CreateIndirect(found.bytes, pParentWnd, nullptr, found.module);
 }
 
-BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit,
-                             HINSTANCE hInst) {
-    m_lpDialogInit = lpDialogInit;
-    CWnd* const parent = pParentWnd ? pParentWnd : AfxGetMainWnd();
-    m_pParentWnd = parent;
-    return CreateDlgIndirect(lpDialogTemplate, parent ? parent->m_hWnd : nullptr,
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void*, HINSTANCE hInst) {
+    m_pParentWnd = pParentWnd ? pParentWnd : AfxGetMainWnd();
+    return CreateDlgIndirect(lpDialogTemplate, HandleOf(m_pParentWnd),
                              hInst ? hInst : AfxGetResourceHandle());
 }
 
@@ -91,13 +69,80 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, HWND hWndParent
     if (!lpDialogTemplate || m_hWnd)
         return FALSE;
     AfxInitControls();
-    m_bCentre = WantsCentre(ReadHeader(lpDialogTemplate));
+    m_bCentre = WantsCentre(lpDialogTemplate);
     if (!AfxHookWindowCreate(this))
         return FALSE;
     const HWND hWnd = ::CreateDialogIndirectParamW(hInst, lpDialogTemplate, hWndParent, DialogProc, 0);
     if (!AfxUnhookWindowCreate())
         PostNcDestroy();
     return hWnd != nullptr;
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void*) {
+    m_lpDialogTemplate = lpDialogTemplate;
+    m_pParentWnd = pParentWnd;
+    return TRUE;
+}
+
+BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    m_hDialogTemplate = hDialogTemplate;
+    m_pParentWnd = pParentWnd;
+    return TRUE;
+}
+
+HWND CDialog::PreModal() {
+    m_hWndTop = nullptr;
+    CWnd* const owner = CWnd::GetSafeOwner(m_pParentWnd, &m_hWndTop);
+    return HandleOf(owner);
+}
+
+void CDialog::PostModal() {
+    EnableAgain(std::exchange(m_hWndTop, nullptr));
+}
+
+DialogTemplate CDialog::ModalTemplate() const {
+    if (m_lpszTemplateName)
+        return FindDialogTemplate(m_lpszTemplateName);
+    const void* const bytes = m_hDialogTemplate ? ::LockResource(m_hDialogTemplate) : m_lpDialogTemplate;
+    return {static_cast<LPCDLGTEMPLATE>(bytes), AfxGetResourceHandle()};
+}
+
+INT_PTR CDialog::DoModal() {
+    const DialogTemplate found = m_hWnd ? DialogTemplate() : ModalTemplate();
+    if (!found.bytes)
+        return -1;
+
+    const HWND owner = PreModal();
+    const HWND top = m_hWndTop;
+    DisabledOwner disabled(owner);
+    const TemporaryScope temporaries;
+    const WndWatch watch(this);
+    m_nModalResult = -1;
+    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
+    const BOOL created = CreateDlgIndirect(found.bytes, owner, found.module);
+    if (created && watch.IsAlive() && (m_nFlags & WF_CONTINUEMODAL)) {
+        // A window destroyed from outside ends the run like a cancel.
+        m_nModalResult = IDCANCEL;
+        RunModalLoop((GetStyle() & DS_NOIDLEMSG) ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
+    }
+    if (!watch.IsAlive()) {
+        disabled.Enable();
+        EnableAgain(top);
+        return created ? IDCANCEL : -1;
+    }
+    m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
+    const INT_PTR result = m_nModalResult;
+    const bool wasActive = m_hWnd && ::GetActiveWindow() == m_hWnd;
+    disabled.Enable();
+    PostModal();
+    if (m_hWnd)
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    if (wasActive && owner)
+        ::SetActiveWindow(owner);
+    DestroyWindow();
+    temporaries.Remove(); // those of the run; its callers may hold older ones
+    return result;
 }
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {

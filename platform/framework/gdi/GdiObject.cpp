@@ -1,4 +1,6 @@
-#include "window/ThreadTemporaries.h"
+// CGdiObject: handle, temporary objects of the handle's own class, deletion.
+#include "handles/ThreadTemporaries.h"
+#include "afx/ResourceException.h"
 
 IMPLEMENT_DYNCREATE(CGdiObject, CObject)
 

@@ -1,15 +1,9 @@
-#include "window/ThreadTemporaries.h"
-#include "afxstat_.h"
+// CImageList: handle, images and drawing.
+#include "handles/HandleOf.h"
+#include "handles/ThreadTemporaries.h"
+#include "afx/Resources.h"
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
-
-namespace {
-
-HBITMAP HandleOf(const CBitmap* pbm) {
-    return pbm ? static_cast<HBITMAP>(*pbm) : nullptr;
-}
-
-} // namespace
 
 BOOL CImageList::Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow) {
     return AttachNew(::ImageList_Create(cx, cy, nFlags, nInitial, nGrow));

@@ -1,5 +1,8 @@
-#include "window/ThreadTemporaries.h"
-#include "afxstat_.h"
+// CMenu: handle, items, and the menu shown.
+#include "handles/HandleOf.h"
+#include "handles/ThreadTemporaries.h"
+#include "text/FetchedText.h"
+#include "afx/Resources.h"
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
 
@@ -8,10 +11,6 @@ namespace {
 // The platform takes a bitmap in place of a text when MF_BITMAP is set.
 LPCWSTR AsItemText(const CBitmap* pBmp) {
     return pBmp ? static_cast<LPCWSTR>(pBmp->GetSafeHandle()) : nullptr;
-}
-
-HBITMAP HandleOf(const CBitmap* pBmp) {
-    return pBmp ? static_cast<HBITMAP>(*pBmp) : nullptr;
 }
 
 } // namespace
@@ -71,13 +70,20 @@ BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpU
 
 int CMenu::GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const {
     const int length = ::GetMenuStringW(m_hMenu, nIDItem, nullptr, 0, nFlags);
-    if (length <= 0) {
-        rString.Empty();
-        return 0;
-    }
-    const int copied = ::GetMenuStringW(m_hMenu, nIDItem, rString.GetBuffer(length), length + 1, nFlags);
-    rString.ReleaseBuffer(copied);
-    return copied;
+    rString = FetchedText(length, [&](LPWSTR buffer) {
+        return ::GetMenuStringW(m_hMenu, nIDItem, buffer, length + 1, nFlags);
+    });
+    return rString.GetLength();
+}
+
+BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect) {
+    HWND const owner = HandleOf(pWnd);
+    return owner ? ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, owner, lpRect) : FALSE;
+}
+
+BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm) {
+    HWND const owner = HandleOf(pWnd);
+    return owner ? ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, owner, lptpm) : FALSE;
 }
 
 void CMenu::DrawItem(LPDRAWITEMSTRUCT) {

@@ -1,8 +1,9 @@
-// Arrays of common element types under their documented names. They are CArray in everything; see afxtempl.h.
-// CStringArray owns its texts; CPtrArray and CObArray do not own what their elements point to.
+// Entry header: arrays of common element types. They are CArray in everything; see afxtempl.h. CStringArray
+// owns its texts; CPtrArray and CObArray do not own what their elements point to.
 #pragma once
 
 #include "afxtempl.h"
+#include "afx/String.h"
 
 class CStringArray : public CArray<CString, const CString&> {};
 class CPtrArray : public CArray<void*, void*> {};

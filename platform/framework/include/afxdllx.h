@@ -1,9 +1,9 @@
-// To be included by exactly one source file of an extension module. It supplies the module's raw entry, which
-// runs before the module's static objects are constructed: from there on the classes that they register are
-// the module's own, until AfxInitExtensionModule takes them over.
+// Entry header, for exactly one source file of an extension module: the module's raw entry. It runs before
+// the module's static objects are constructed: from there on the classes that they register are the module's
+// own, until AfxInitExtensionModule takes them over.
 #pragma once
 
-#include "afxstat_.h"
+#include "afx/ExtensionModule.h"
 
 #ifndef QV_STATIC_LINK
 

@@ -1,15 +1,15 @@
-// CSize, CPoint, CRect: the platform's SIZE, POINT and RECT with operators.
+// Entry header: CSize, CPoint, CRect, the platform's SIZE, POINT and RECT with operators.
 //
 //     CRect client(0, 0, 320, 200);
 //     client.DeflateRect(8, 8);
 //     CPoint centre = client.CenterPoint();
 //
 // Plain values: no owner, any thread, no failure. Units are whatever the caller measures in, usually pixels.
-// The right and bottom edges of a rectangle lie outside it. Functions marked "normalised" expect
-// left <= right and top <= bottom.
+// The right and bottom edges of a rectangle lie outside it. Functions marked "normalised" expect left <=
+// right and top <= bottom.
 #pragma once
 
-#include "afxbase.h"
+#include "afx/Definitions.h"
 
 class CPoint;
 class CRect;

@@ -1,10 +1,11 @@
-// Loading and unloading of extension modules.
-#include "ClassList.h"
-#include "window/ThreadState.h"
+// Loading and unloading of extension modules: whose the classes are that static objects register meanwhile.
+#include "ModuleLock.h"
+#include "messages/MessageCache.h"
+#include "window/ClassRegistry.h"
+#include "afx/DynLinkLibrary.h"
+#include "afx/Resources.h"
 
 #include <memory>
-
-IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
 namespace {
 
@@ -17,7 +18,8 @@ struct SavedLists {
     std::unique_ptr<SavedLists> below = {};
 };
 
-// Plain pointer and no destructor: modules that unload after the framework's static objects are gone still look here.
+// Plain pointer and no destructor: modules that unload after the framework's static objects are gone still
+// look here.
 constinit SavedLists* g_savedTop = nullptr;
 
 bool Unlink(CRuntimeClass*& head, const CRuntimeClass* pClass) {
@@ -45,8 +47,8 @@ void PushSaved(HINSTANCE hInstance, const AFX_MODULE_STATE& state) {
     g_savedTop = saved.release();
 }
 
-// Takes back what was put aside for the module; the classes registered meanwhile are in the state's list. Empty when
-// nothing was.
+// Takes back what was put aside for the module; the classes registered meanwhile are in the state's list.
+// Empty when nothing was.
 std::unique_ptr<SavedLists> PopSaved(HINSTANCE hInstance) {
     SavedLists* above = nullptr;
     SavedLists* at = g_savedTop;
@@ -144,31 +146,4 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
     state.bInitialized = FALSE;
     state.pFirstSharedClass = nullptr;
     state.pFirstSharedFactory = nullptr;
-}
-
-CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
-    : m_hModule(state.hModule), m_hResource(state.hResource), m_pClassList(state.pFirstSharedClass),
-      m_pFactoryList(state.pFirstSharedFactory), m_bSystem(bSystem) {
-    const ModuleLock lock;
-    AFX_MODULE_STATE& app = *AfxGetAppModuleState();
-    m_pNextDLL = app.m_pLibraryList;
-    app.m_pLibraryList = this;
-}
-
-CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)
-    : m_hModule(hModule), m_hResource(hResource), m_pClassList(nullptr), m_pFactoryList(nullptr),
-      m_bSystem(FALSE) {
-    const ModuleLock lock;
-    AFX_MODULE_STATE& app = *AfxGetAppModuleState();
-    m_pNextDLL = app.m_pLibraryList;
-    app.m_pLibraryList = this;
-}
-
-CDynLinkLibrary::~CDynLinkLibrary() {
-    const ModuleLock lock;
-    CDynLinkLibrary** link = &AfxGetAppModuleState()->m_pLibraryList;
-    while (*link && *link != this)
-        link = &(*link)->m_pNextDLL;
-    if (*link)
-        *link = m_pNextDLL;
 }

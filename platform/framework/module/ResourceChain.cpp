@@ -1,5 +1,7 @@
 // Which module a resource comes from.
-#include "ClassList.h"
+#include "ModuleLock.h"
+#include "afx/DynLinkLibrary.h"
+#include "afx/Resources.h"
 
 #include <initializer_list>
 

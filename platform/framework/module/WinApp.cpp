@@ -1,5 +1,8 @@
-#include "window/ThreadState.h"
-#include "afxapp_.h"
+// CWinApp: the program's object, its start, and its message box.
+#include "dialog/DisabledOwner.h"
+#include "handles/TemporaryScope.h"
+#include "thread/ThreadState.h"
+#include "afx/WinApp.h"
 
 #include <algorithm>
 
@@ -49,8 +52,7 @@ int ShowMessageBox(LPCTSTR lpszPrompt, UINT nType) {
     HWND top = nullptr;
     const HWND owner = MessageBoxOwner(&top);
     const int answer = ::MessageBoxW(owner, lpszPrompt ? lpszPrompt : L"", AfxGetAppName(), WithIcon(nType));
-    if (top && ::IsWindow(top))
-        ::EnableWindow(top, TRUE);
+    EnableAgain(top);
     return answer;
 }
 

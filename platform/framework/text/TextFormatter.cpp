@@ -1,3 +1,4 @@
+// Formats a text: reads the fields of the format, takes the arguments apart and writes them.
 #include "TextFormatter.h"
 
 #include <cstdint>

@@ -1,10 +1,9 @@
 // Formats a text after the rules documented at CString::Format.
 #pragma once
 
-#include "afxstr.h"
+#include "afx/String.h"
 
-// Walks a format once. Integers, texts and units are written here; floating-point numbers by the C
-// run-time.
+// Walks a format once. Integers, texts and units are written here; floating-point numbers by the C run-time.
 class TextFormatter {
   public:
     explicit TextFormatter(CString& result) : m_result(result) {}

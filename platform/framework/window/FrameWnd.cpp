@@ -1,5 +1,9 @@
-#include "afxapp_.h"
-#include "afxframe_.h"
+// CFrameWnd: a top-level window that lives by itself.
+#include "handles/HandleOf.h"
+#include "afx/FrameWnd.h"
+#include "afx/Resources.h"
+#include "afx/WinThread.h"
+#include "afx/WndClass.h"
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
@@ -27,7 +31,7 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     const int width = isDefault ? CW_USEDEFAULT : rect.right - rect.left;
     const int height = isDefault ? CW_USEDEFAULT : rect.bottom - rect.top;
     const BOOL created = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                                  width, height, pParentWnd ? pParentWnd->m_hWnd : nullptr, menu, pContext);
+                                  width, height, HandleOf(pParentWnd), menu, pContext);
     if (!created && menu)
         ::DestroyMenu(menu);
     return created;

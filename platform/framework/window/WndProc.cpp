@@ -1,20 +1,11 @@
-// The procedure of all windows that have an object, and the connection of objects to windows being created.
-#include "ThreadState.h"
-#include "afxapp_.h"
-#include "afximagelist.h"
-
-#include <cwchar>
+// The procedure of all windows that have an object.
+#include "WndProc.h"
+#include "WndAccess.h"
+#include "thread/ThreadState.h"
+#include "afx/UserException.h"
+#include "afx/WinThread.h"
 
 namespace {
-
-// What the system gets for a message whose handler threw.
-LRESULT AnswerAfterException(const MSG& message) {
-    if (message.message == WM_CREATE)
-        return -1; // the creation fails
-    if (message.message == WM_PAINT)
-        ::ValidateRect(message.hwnd, nullptr); // else the message would come for ever
-    return 0;
-}
 
 LRESULT OnFrameworkException(AfxThreadState& state, CException* e) noexcept {
     const MSG message = state.currentMessage;
@@ -44,27 +35,15 @@ void ForgetDestroyed(AfxThreadState& state, HWND hWnd) {
         state.temporaryWindows.RemoveDead();
 }
 
-bool IsInputMethodClass(const wchar_t* className) {
-    return !IS_INTRESOURCE(className) && _wcsicmp(className, L"IME") == 0;
-}
-
-LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
-    AfxThreadState& state = AfxThreadState::Get();
-    const LRESULT result = ::CallNextHookEx(nullptr, code, wParam, lParam);
-    if (code != HCBT_CREATEWND || !state.creatingWnd)
-        return result;
-    if (IsInputMethodClass(reinterpret_cast<const CBT_CREATEWND*>(lParam)->lpcs->lpszClass))
-        return result; // the system's helper window, made along with a thread's first window
-    CWnd* const pWnd = std::exchange(state.creatingWnd, nullptr);
-    try {
-        pWnd->SubclassWindow(reinterpret_cast<HWND>(wParam));
-    } catch (...) {
-        ::OutputDebugStringW(L"AfxFrame: a window object refused its window\n");
-    }
-    return result;
-}
-
 } // namespace
+
+LRESULT AnswerAfterException(const MSG& message) {
+    if (message.message == WM_CREATE)
+        return -1; // the creation fails
+    if (message.message == WM_PAINT)
+        ::ValidateRect(message.hwnd, nullptr); // else the message would come for ever
+    return 0;
+}
 
 LRESULT AfxCallWndProc(AfxThreadState& state, CWnd* pWnd, HWND hWnd, UINT message, WPARAM wParam,
                        LPARAM lParam) {
@@ -105,37 +84,4 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     if (nMsg == WM_NCDESTROY)
         ForgetDestroyed(state, hWnd);
     return result;
-}
-
-bool AfxHookWindowCreate(CWnd* pWnd) {
-    AfxThreadState& state = AfxThreadState::Get();
-    state.creatingWnd = pWnd;
-    if (!state.creationHook)
-        state.creationHook =
-            ::SetWindowsHookExW(WH_CBT, CreationHook, AfxGetInstanceHandle(), ::GetCurrentThreadId());
-    return state.creationHook != nullptr;
-}
-
-bool AfxUnhookWindowCreate() {
-    AfxThreadState& state = AfxThreadState::Get();
-    if (HHOOK const hook = std::exchange(state.creationHook, nullptr))
-        ::UnhookWindowsHookEx(hook);
-    return std::exchange(state.creatingWnd, nullptr) == nullptr;
-}
-
-void AfxInitControls() {
-    static const bool done = [] {
-        INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_WIN95_CLASSES | ICC_USEREX_CLASSES |
-                                                            ICC_COOL_CLASSES | ICC_STANDARD_CLASSES};
-        return ::InitCommonControlsEx(&classes) != FALSE;
-    }();
-    static_cast<void>(done);
-}
-
-void AfxDeleteTempObjects() {
-    CWnd::DeleteTempMap();
-    CDC::DeleteTempMap();
-    CGdiObject::DeleteTempMap();
-    CMenu::DeleteTempMap();
-    CImageList::DeleteTempMap();
 }

@@ -34,7 +34,8 @@ TEST(ChildProcess, AbsentProgramAndSlowProgramAreToldApart) {
     EXPECT_FALSE(ChildProcess(L"C:\\none\\absent.exe", L"").started());
     const DWORD start = GetTickCount();
     EXPECT_FALSE(
-        runChild(programFolder() + L"\\windows_driver_probe.exe", L"--gtest_filter=*SleepsLong", {}, 300).ended);
+        runChild(programFolder() + L"\\windows_driver_probe.exe", L"--gtest_filter=*SleepsLong", {}, 300)
+            .ended);
     EXPECT_LT(GetTickCount() - start, 5000u);
 }
 

@@ -149,7 +149,8 @@ bool writeDocumentsAside() {
 
 int main(int count, char** arguments) {
     const std::wstring program = programPath();
-    const std::wstring folder = program.substr(0, program.rfind(L'\\')) + L"\\bench_commonclass_psd-documents";
+    const std::wstring folder =
+        program.substr(0, program.rfind(L'\\')) + L"\\bench_commonclass_psd-documents";
     if (std::wstring(GetCommandLineW()).find(kWriteArgument) != std::wstring::npos)
         return writeBenchDocuments(folder) ? 0 : 1;
     if (!writeDocumentsAside()) {

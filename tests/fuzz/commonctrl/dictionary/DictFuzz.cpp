@@ -1,5 +1,5 @@
 // Feeds the dictionary parser with any bytes.
-#include "dictionary/QVDictParse.h"
+#include "dictionary/DictParse.h"
 
 #include <cstdint>
 #include <cstdlib>

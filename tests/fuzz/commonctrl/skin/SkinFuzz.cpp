@@ -1,5 +1,5 @@
 // Feeds the skin parser with any bytes.
-#include "skin/QVSkinParse.h"
+#include "skin/SkinParse.h"
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
 // Every key that a source or template names has a text in every language that is shipped.
-#include "dictionary/QVDictParse.h"
+#include "dictionary/DictParse.h"
 #include "StageFolder.h"
 #include "TempFolder.h"
 

@@ -1,4 +1,4 @@
-#include "dictionary/QVDictParse.h"
+#include "dictionary/DictParse.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "paint/QVPixels.h"
+#include "paint/Pixels.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "scroll/QVScrollGeometry.h"
+#include "scroll/ScrollGeometry.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ TEST(ScrollGeometry, BarWithoutThumbHasArrowsOnly) {
 }
 
 TEST(ScrollGeometry, ThumbFollowsThePosition) {
-    const ScrollRange range = {0, 99, 10, 0}; // positions 0 to 90
+    const ScrollRange range = {0, 99, 10}; // positions 0 to 90
     EXPECT_EQ(17, WithThumbAt(kShape, range, 0).thumbBegin);
     EXPECT_EQ(17 + 68, WithThumbAt(kShape, range, 45).thumbBegin);
     EXPECT_EQ(153, WithThumbAt(kShape, range, 90).thumbBegin);
@@ -60,18 +60,18 @@ TEST(ScrollGeometry, ThumbFollowsThePosition) {
 }
 
 TEST(ScrollGeometry, ExtremeRangesDoNotOverflow) {
-    const ScrollRange all = {INT_MIN, INT_MAX, 0, 0};
+    const ScrollRange all = {INT_MIN, INT_MAX, 0};
     EXPECT_EQ(17, WithThumbAt(kShape, all, INT_MIN).thumbBegin);
     EXPECT_EQ(153, WithThumbAt(kShape, all, INT_MAX).thumbBegin);
-    const ScrollRange hugePage = {0, INT_MAX, UINT_MAX, 0};
+    const ScrollRange hugePage = {0, INT_MAX, UINT_MAX};
     EXPECT_EQ(kShape, WithThumbAt(kShape, hugePage, 5));
 }
 
 TEST(ScrollGeometry, NothingToScrollLeavesTheThumb) {
-    EXPECT_EQ(kShape, WithThumbAt(kShape, {0, 9, 10, 0}, 5));
-    EXPECT_EQ(kShape, WithThumbAt(kShape, {5, 5, 0, 5}, 5));
+    EXPECT_EQ(kShape, WithThumbAt(kShape, {0, 9, 10}, 5));
+    EXPECT_EQ(kShape, WithThumbAt(kShape, {5, 5, 0}, 5));
     const ScrollBarShape tiny = {40, 17, 17, 23, true};
-    EXPECT_EQ(tiny, WithThumbAt(tiny, {0, 99, 1, 0}, 50)); // no room to move in
+    EXPECT_EQ(tiny, WithThumbAt(tiny, {0, 99, 1}, 50)); // no room to move in
 }
 
 } // namespace

@@ -60,7 +60,8 @@ TEST(ProgressRules, Dots) {
     EXPECT_STREQ(L"a", ProgressMessage(L"a", 0));
     EXPECT_STREQ(L"a...", ProgressMessage(L"a", 3));
     EXPECT_STREQ(L"..", ProgressMessage(L"", 2));
-    EXPECT_EQ(1024 + 20, ProgressMessage(CString(L'x', 1 << 20), 20).GetLength());
+    EXPECT_EQ((1 << 20) + 20, ProgressMessage(CString(L'x', 1 << 20), 20).GetLength())
+        << "whole, however long";
     int dots = 0;
     for (int tick = 0; tick < 21; ++tick) {
         EXPECT_EQ(tick, dots);

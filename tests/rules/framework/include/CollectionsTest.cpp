@@ -1,5 +1,6 @@
 // CArray, CStringArray, CList, CMap.
 #include "TextPrinter.h"
+#include "afx.h"
 #include "afxcoll.h"
 
 #include <random>

@@ -15,6 +15,7 @@ class FakeShellFolder final : public IShellFolder {
 
     const wchar_t* name = nullptr; // null: the name cannot be asked
     Kind kind = Kind::Item;
+    DWORD errorMode = 0; // of the thread that asked last
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** object) override {
         *object = nullptr;
@@ -24,6 +25,7 @@ class FakeShellFolder final : public IShellFolder {
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
 
     HRESULT STDMETHODCALLTYPE GetAttributesOf(UINT, PCUITEMID_CHILD_ARRAY, SFGAOF* attributes) override {
+        errorMode = ::GetThreadErrorMode();
         if (kind == Kind::Unknown)
             return E_FAIL;
         *attributes &= kind == Kind::Folder ? SFGAO_FOLDER : 0u;

@@ -77,6 +77,17 @@ TEST_F(FolderFilter, ShowsVirtualFolders) {
         EXPECT_EQ(S_OK, Show(IdOf(name))) << testing::PrintToString(name);
 }
 
+// The shell asks on threads of its own, of items on drives that may have no disk.
+TEST_F(FolderFilter, AsksWithoutABoxOfTheSystem) {
+    FakeShellFolder folder;
+    const ItemId item = IdOf(m_folder.path());
+    const DWORD before = ::GetThreadErrorMode();
+    ASSERT_EQ(0u, before & SEM_FAILCRITICALERRORS);
+    m_filter->ShouldShow(&folder, nullptr, reinterpret_cast<PCUITEMID_CHILD>(item.get()));
+    EXPECT_EQ(DWORD(SEM_FAILCRITICALERRORS), folder.errorMode & SEM_FAILCRITICALERRORS);
+    EXPECT_EQ(before, ::GetThreadErrorMode());
+}
+
 TEST_F(FolderFilter, WithoutPatternFails) {
     m_filter->m_pszPattern = nullptr;
     EXPECT_EQ(E_FAIL, Show(IdOf(m_folder.path())));

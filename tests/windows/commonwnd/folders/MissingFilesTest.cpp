@@ -63,6 +63,25 @@ TEST_F(MissingFiles, ShowsThePathsInTheirOrder) {
     });
 }
 
+// Anybody may send the message; nothing of it can be read.
+TEST_F(MissingFiles, NoticesWithoutARecordAreHarmless) {
+    struct OpenPrompt : CQVFilePathShowTip {
+        using CQVFilePathShowTip::WindowProc;
+    };
+    OpenPrompt prompt;
+    bool answered = false;
+    EXPECT_EQ(IDCANCEL, Run(prompt, [&](Driver& user, HWND window) {
+                  user.onUi(
+                      [&] { // by a direct call: a platform may swallow what goes wrong below a sent message
+                          EXPECT_EQ(0, prompt.WindowProc(WM_NOTIFY, IDC_MISSINGFILES_LIST, 0));
+                          EXPECT_EQ(0, prompt.WindowProc(WM_NOTIFY, 0, 0));
+                          answered = true;
+                      });
+                  Close(user, window);
+              }));
+    EXPECT_TRUE(answered);
+}
+
 TEST_F(MissingFiles, HasOneWideColumn) {
     for (const wchar_t* language : {L"en-US", L"zh-CN"}) {
         ASSERT_TRUE(QV_SetLanguage(language));

@@ -3,6 +3,7 @@
 
 #include "LeakGuard.h"
 #include "Picture.h"
+#include "ShownText.h"
 
 #include <QVSkin.h>
 
@@ -57,6 +58,31 @@ TEST_P(QuestionBoxIn, ShowsQuestionAndTranslatedButtons) {
 INSTANTIATE_TEST_SUITE_P(Languages, QuestionBoxIn, testing::Values(L"en-US", L"zh-CN"), [](const auto& row) {
     return std::wstring(row.param) == L"en-US" ? "English" : "Chinese";
 });
+
+TEST_F(QuestionBox, AmpersandsAreShown) {
+    Ask(
+        [](Driver& user, HWND box) {
+            user.settle();
+            const HWND question = findControl(box, IDC_MSGBOX_TEXT);
+            EXPECT_EQ(L"Replace \"R&B_final & more.mov\"?", textOf(question));
+            EXPECT_NEAR(qvtest::widthOfText(question), qvtest::widthOfInk(question), 4);
+            Picture::ofWindow(box).save(qvtest::picturePath(L"messagebox-ampersands"));
+            user.click(box, IDC_MSGBOX_NO);
+        },
+        L"Replace \"R&B_final & more.mov\"?");
+}
+
+// The box is measured for what it shows: no line of ampersands is wrapped.
+TEST_F(QuestionBox, GrowsForAmpersands) {
+    Ask(
+        [](Driver& user, HWND box) {
+            user.settle();
+            const HWND question = findControl(box, IDC_MSGBOX_TEXT);
+            EXPECT_NEAR(qvtest::widthOfText(question), qvtest::widthOfInk(question), 4);
+            user.click(box, IDC_MSGBOX_NO);
+        },
+        CString(L'&', 70));
+}
 
 TEST_F(QuestionBox, TypeHasNoEffect) {
     CSize plain;

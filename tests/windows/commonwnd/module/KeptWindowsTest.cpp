@@ -121,6 +121,16 @@ TEST_F(KeptWindows, WindowsThatDiedBeforeAreDeletedAllTheSame) {
     EXPECT_EQ(2, g_deleted);
 }
 
+TEST_F(KeptWindows, ListThatDiedBeforeLeavesTheStoredFolder) {
+    const qvtest::TempFolder folder;
+    QV_WriteProfileString(L"PathSet", L"FilePath", L"D:\\clips");
+    KeepList(folder.path().c_str());
+    m_parent.DestroyWindow();
+    QV_ReleaseCommonWnd();
+    EXPECT_STREQ(L"D:\\clips", StoredFolder());
+    EXPECT_EQ(1, g_deleted);
+}
+
 class ReentrantWnd : public CountedWnd {
   public:
     BOOL DestroyWindow() override {

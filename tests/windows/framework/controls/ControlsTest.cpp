@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 namespace {
 
 class Controls : public ::testing::Test {
@@ -104,13 +106,18 @@ TEST_F(Controls, ToolBarOfTheSystemCanBeTakenOver) {
     button.idCommand = 33;
     button.fsState = TBSTATE_ENABLED;
     button.iString = reinterpret_cast<INT_PTR>(L"Press");
-    EXPECT_TRUE(tools.AddButtons(1, &button));
-    EXPECT_EQ(1, tools.GetButtonCount());
+    static_assert(!std::is_base_of_v<CToolBarCtrl, CToolBar>, "the control's functions are not the bar's");
+    CToolBarCtrl& control = tools.GetToolBarCtrl();
+    EXPECT_EQ(bar, control.m_hWnd);
+    EXPECT_EQ(&tools, CWnd::FromHandlePermanent(bar));
+    EXPECT_TRUE(control.AddButtons(1, &button));
+    EXPECT_EQ(1, control.GetButtonCount());
     EXPECT_EQ(33u, tools.GetItemID(0));
     EXPECT_EQ(0u, tools.GetItemID(5));
     EXPECT_STREQ(L"Press", tools.GetButtonText(0));
     tools.UnsubclassWindow();
     EXPECT_TRUE(::IsWindow(bar));
+    EXPECT_EQ(nullptr, tools.GetToolBarCtrl().m_hWnd);
 }
 
 TEST_F(Controls, ProgressBarAndSlider) {

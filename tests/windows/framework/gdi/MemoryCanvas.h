@@ -1,7 +1,7 @@
 // A small bitmap to draw on and read back.
 #pragma once
 
-#include "afxgdi.h"
+#include "afxwin.h"
 
 class MemoryCanvas {
   public:

@@ -3,7 +3,7 @@
 #include "MemoryCanvas.h"
 #include "ModalScript.h"
 #include "PlainWindow.h"
-#include "afximagelist.h"
+#include "afxcmn.h"
 
 #include <gtest/gtest.h>
 

@@ -12,7 +12,8 @@ namespace {
 
 class Extension {
   public:
-    Extension() : m_module(::LoadLibraryW((programFolder() + L"\\windows_framework_module_extension.dll").c_str())) {}
+    Extension()
+        : m_module(::LoadLibraryW((programFolder() + L"\\windows_framework_module_extension.dll").c_str())) {}
     ~Extension() { Free(); }
     Extension(const Extension&) = delete;
     Extension& operator=(const Extension&) = delete;
@@ -95,8 +96,8 @@ TEST(ExtensionModule, WindowsOfTheModuleWorkAndNothingStaysBehind) {
             EXPECT_EQ(8, wnd->SendMessage(WM_APP, 7));
         }
         extension.Free();
-        EXPECT_FALSE(
-            ::GetClassInfoW(::GetModuleHandleW(L"windows_framework_module_extension.dll"), kExtensionWindowClass, &wc));
+        EXPECT_FALSE(::GetClassInfoW(::GetModuleHandleW(L"windows_framework_module_extension.dll"),
+                                     kExtensionWindowClass, &wc));
         EXPECT_EQ(nullptr, ::GetModuleHandleW(L"windows_framework_module_extension.dll"));
         EXPECT_EQ(nullptr, CRuntimeClass::FromName("CExtensionThing"));
         EXPECT_EQ(nullptr, AfxGetAppModuleState()->m_pLibraryList);

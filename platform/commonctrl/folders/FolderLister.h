@@ -1,0 +1,12 @@
+// FolderLister.h: the host's own listing of folders, when it has set one.
+#pragma once
+
+#include "FolderEntries.h"
+
+namespace _qv_commonctrl {
+
+// Asks the host. `answered` is FALSE when there is no lister or it leaves the folder to the system.
+bool AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink,
+                     bool& answered);
+
+} // namespace _qv_commonctrl

@@ -1,0 +1,87 @@
+#include "FolderListing.h"
+
+#include "module/Files.h"
+
+#include <algorithm>
+#include <atomic>
+#include <mutex>
+
+namespace _qv_commonctrl {
+
+namespace {
+
+// What is worth showing before the end. Each showing costs time that grows with all that is shown: so do the
+// steps.
+constexpr std::size_t kFirstStep = 500;   // entries
+constexpr std::size_t kGrowthDivisor = 2; // by half of what is shown
+
+} // namespace
+
+// What the worker and the window share.
+class FolderListing::Reading {
+  public:
+    Reading(FolderRequest request, const TaskReport& report)
+        : m_request(std::move(request)), m_report(report) {}
+
+    void Run() {
+        m_succeeded = ListFolder(m_request, [this](FolderEntry&& entry) { Add(std::move(entry)); });
+    }
+
+    std::vector<FolderEntry> Take() {
+        std::vector<FolderEntry> taken;
+        const std::scoped_lock lock(m_mutex);
+        taken.swap(m_ready);
+        m_taken += taken.size();
+        m_reported = false;
+        return taken;
+    }
+
+    bool Succeeded() const { return m_succeeded; }
+
+  private:
+    // The window hears of new entries when it has taken those of the last time: it sets the pace.
+    void Add(FolderEntry&& entry) {
+        const std::scoped_lock lock(m_mutex);
+        m_ready.push_back(std::move(entry));
+        if (m_reported || m_ready.size() < std::max(kFirstStep, m_taken / kGrowthDivisor))
+            return;
+        m_reported = true;
+        if (m_report.wnd)
+            PostMessageW(m_report.wnd, m_report.message, m_report.id, 0);
+    }
+
+    FolderRequest m_request;
+    TaskReport m_report;
+    std::mutex m_mutex;
+    std::vector<FolderEntry> m_ready; // read and not taken
+    std::size_t m_taken = 0;
+    bool m_reported = false;
+    std::atomic<bool> m_succeeded = false;
+};
+
+FolderListing::FolderListing() = default;
+
+FolderListing::~FolderListing() = default;
+
+std::unique_ptr<FolderListing> FolderListing::Start(FolderRequest request, const TaskReport& report) {
+    std::unique_ptr<FolderListing> listing(new FolderListing);
+    listing->m_reading = std::make_shared<Reading>(std::move(request), report);
+    listing->m_task = BackgroundTask::Start([reading = listing->m_reading] { reading->Run(); }, report);
+    return listing->m_task ? std::move(listing) : nullptr;
+}
+
+bool FolderListing::Succeeded() const {
+    return m_reading->Succeeded();
+}
+
+std::vector<FolderEntry> FolderListing::Take() {
+    return m_reading->Take();
+}
+
+bool FolderIsThere(const std::wstring& path, DWORD milliseconds) {
+    const auto there = std::make_shared<std::atomic<bool>>(false);
+    const auto task = BackgroundTask::Start([path, there] { *there = FolderExists(path); }, {});
+    return task && task->Wait(milliseconds) && *there;
+}
+
+} // namespace _qv_commonctrl

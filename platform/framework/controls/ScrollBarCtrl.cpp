@@ -1,3 +1,0 @@
-#include "afxctl_std.h"
-
-IMPLEMENT_DYNAMIC(CScrollBar, CWnd)

@@ -1,0 +1,23 @@
+# find_lost_places(RESULT START EXPRESSION DOCUMENT...): what the documents below ROOT name by the expression's first
+# group and what is not there, a line each. START: a place counts from the tree's root (ROOT) or its document (DOCUMENT).
+# Brackets and semicolons of a text mean something in a list, so it is searched as one string, match by match.
+function(find_lost_places result start expression)
+  set(lost "")
+  foreach(document ${ARGN})
+    set(from ${ROOT})
+    if(start STREQUAL "DOCUMENT")
+      get_filename_component(from ${ROOT}/${document} DIRECTORY)
+    endif()
+    file(READ ${ROOT}/${document} text)
+    while(text MATCHES "${expression}")
+      if(NOT EXISTS ${from}/${CMAKE_MATCH_1})
+        string(APPEND lost "${document}: there is no ${CMAKE_MATCH_1}\n")
+      endif()
+      string(FIND "${text}" "${CMAKE_MATCH_0}" at)
+      string(LENGTH "${CMAKE_MATCH_0}" length)
+      math(EXPR at "${at} + ${length}")
+      string(SUBSTRING "${text}" ${at} -1 text)
+    endwhile()
+  endforeach()
+  set(${result} "${lost}" PARENT_SCOPE)
+endfunction()
