@@ -99,7 +99,7 @@ void CQVPathBrowseWnd::TakeControls() {
     }
     if (const HWND title = ::GetDlgItem(m_hWnd, kTitleId)) {
         m_stcTitle.SubclassWindow(title);
-        m_stcTitle.ModifyStyle(0, SS_CENTERIMAGE);
+        m_stcTitle.ModifyStyle(0, SS_CENTERIMAGE | SS_NOPREFIX); // the text is the host's
     }
 }
 

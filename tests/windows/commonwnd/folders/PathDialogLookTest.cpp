@@ -3,6 +3,7 @@
 
 #include "LeakGuard.h"
 #include "Picture.h"
+#include "ShownText.h"
 
 #include <commctrl.h>
 #include <shlobj.h>
@@ -114,6 +115,17 @@ TEST_F(PathDialog, NewFolderButtonIsTheHostsChoice) {
             user.click(frame, kCancel);
         });
     }
+}
+
+TEST_F(PathDialog, AmpersandsInTheTitleAreShown) {
+    CQVPathDialog dialog(nullptr);
+    dialog.m_strTitle = L"Where do R&B and Drum & Bass go?";
+    Run(dialog, [](Driver& user, HWND frame) {
+        const HWND title = ::GetDlgItem(frame, kTitle);
+        EXPECT_EQ(L"Where do R&B and Drum & Bass go?", textOf(title));
+        EXPECT_NEAR(qvtest::widthOfText(title), qvtest::widthOfInk(title), 3);
+        user.click(frame, kCancel);
+    });
 }
 
 TEST_F(PathDialog, TitleIsTheHosts) {
