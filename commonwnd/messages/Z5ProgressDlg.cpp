@@ -121,11 +121,7 @@ void CZ5ProgressDlg::SetTextShow(wchar_t* text) {
         return;
     const auto length = static_cast<int>(std::wcslen(text));
     const std::lock_guard lock(s_textLock);
-    const wchar_t* const former = strText;
-    if (text >= former && text <= former + strText.GetLength())
-        strText.SetString(text, length); // a piece of itself
-    else // into the memory that the former text had: a worker reports with each file
-        std::wmemcpy(strText.GetBufferSetLength(length), text, static_cast<std::size_t>(length));
+    strText.SetString(text, length);
 }
 
 void CZ5ProgressDlg::EndProgressWnd(int end) {

@@ -58,7 +58,12 @@ void CSimpleString::SetString(LPCWSTR pszSrc, int nLength) {
         Empty();
         return;
     }
-    Splice(0, GetLength(), pszSrc, nLength);
+    if (nLength > GetAllocLength() || IsShared()) {
+        Splice(0, GetLength(), pszSrc, nLength);
+        return;
+    }
+    CopyCharsOverlapped(m_pszData, pszSrc, nLength); // may be a piece of this text
+    SetLengthUnchecked(nLength);
 }
 
 void CSimpleString::Empty() noexcept {
