@@ -11,6 +11,6 @@ done
 
 case ${1:-all} in
 run) need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" ;;
-all) need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${CHECK_PACKAGES[@]}" ;;
+all) need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${CHECK_PACKAGES[@]}" "${ZIP_PACKAGES[@]}" ;;
 *) die "usage: scripts/setup.sh [all|run]" ;;
 esac

@@ -36,7 +36,7 @@ print_counts() {
 }
 
 main() {
-    need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${CHECK_PACKAGES[@]}"
+    need_packages "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${CHECK_PACKAGES[@]}" "${ZIP_PACKAGES[@]}"
     wine_stop_at_exit
     say "build"
     build_tree mingw || die "the build failed"

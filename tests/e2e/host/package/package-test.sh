@@ -29,8 +29,8 @@ check_symbols() {
         "$PE-objdump" -s -j .gnu_debuglink "$sdk/$file" | grep "$(link_bytes "$symbols/$file.debug")" >/dev/null ||
             die "$file does not name its symbols' file"
     done < <(programs_of "$sdk")
-    "$PE-nm" -C "$symbols/bin/QVCommonWndU.dll.debug" | grep 'CQVFileDialog::DoModal()' >/dev/null ||
-        die "the symbols of the library name no functions"
+    "$PE-objdump" --dwarf=decodedline "$symbols/bin/QVCommonWndU.dll.debug" | grep 'QVFileDialog.cpp' >/dev/null ||
+        die "the symbols of the library have no lines"
 }
 
 # The sum of a symbols' file as the dump of a link shows it, lowest byte first. gzip's trailer begins with the same sum.
