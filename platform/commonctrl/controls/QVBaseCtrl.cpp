@@ -27,7 +27,8 @@ void CQVBaseCtrl::AttachSkin(CWnd* wnd) {
 
 void CQVBaseCtrl::AttachSkinAndFont(CWnd* wnd) {
     AttachSkin(wnd);
-    NoteSkinFont(reinterpret_cast<HFONT>(::SendMessageW(wnd->GetSafeHwnd(), WM_GETFONT, 0, 0)));
+    if (wnd)
+        NoteSkinFont(reinterpret_cast<HFONT>(::SendMessageW(wnd->GetSafeHwnd(), WM_GETFONT, 0, 0)));
 }
 
 void CQVBaseCtrl::DetachSkin() {
@@ -49,7 +50,8 @@ void CQVBaseCtrl::NoteSkinFont(HFONT font) {
     m_nFontIndex = -1;
     if (!font)
         return;
-    const UINT dpi = QV_GetWindowDpi(m_pSkinWnd->GetSafeHwnd());
+    // The font may come before the control is attached.
+    const UINT dpi = QV_GetWindowDpi(m_pSkinWnd ? m_pSkinWnd->m_hWnd : nullptr);
     for (const int index : {QVFONT_UI, QVFONT_TITLE, QVFONT_UI_LATIN, QVFONT_UI_CJK, QVFONT_MONO}) {
         if (QV_GetSysFont(index, dpi)->GetSafeHandle() == font) {
             m_nFontIndex = index;

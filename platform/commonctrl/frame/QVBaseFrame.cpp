@@ -24,7 +24,7 @@ void CQVBaseFrame::DetachFrame() {
 }
 
 void CQVBaseFrame::SetAutoSize(BOOL enable, CWnd* wnd, DWORD) {
-    m_pFrame->SetAutoSize(enable != FALSE, wnd->GetSafeHwnd());
+    m_pFrame->SetAutoSize(enable != FALSE, wnd ? wnd->m_hWnd : nullptr);
 }
 
 void CQVBaseFrame::SetChildWindow(CWnd* child, int mode, DWORD flags) {

@@ -160,7 +160,7 @@ TEST(Program, WithoutAnApplicationObjectThereIsNone) {
     EXPECT_EQ(nullptr, AfxGetThread());
     EXPECT_EQ(nullptr, AfxGetMainWnd());
     EXPECT_EQ(::GetModuleHandleW(nullptr), AfxGetInstanceHandle());
-    EXPECT_STREQ(L"qv_framework_test", AfxGetAppName());
+    EXPECT_STREQ(L"windows_framework_module", AfxGetAppName()); // the program file's name
     EXPECT_EQ(1, AfxWinMain(AfxGetInstanceHandle(), nullptr, nullptr, SW_HIDE));
 }
 
