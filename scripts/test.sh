@@ -9,7 +9,7 @@ for part in common packages build prefix display shards checks fuzz; do
     source "$here/lib/$part.sh"
 done
 
-readonly FUZZ_CI_SECONDS=60 # each target
+readonly FUZZ_CI_SECONDS=30 # each target
 
 problems=()
 

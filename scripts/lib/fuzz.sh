@@ -11,6 +11,18 @@ build_fuzzers() {
     cmake --build "$FUZZ_BUILD" -j "$(jobs_wanted)"
 }
 
+# Every source with an entry for the fuzzer has its program, which is named after the folder.
+check_fuzzers() {
+    local source folder status=0
+    while IFS= read -r source; do
+        folder=$(dirname "${source#"$QV_ROOT/tests/"}")
+        [[ -x $FUZZ_BUILD/bin/${folder//\//_} ]] && continue
+        warn "no program is built of ${source#"$QV_ROOT/"}"
+        status=1
+    done < <(grep -rl --include='*.cpp' LLVMFuzzerTestOneInput "$QV_ROOT/tests/fuzz")
+    return "$status"
+}
+
 # $1: target, $2: seconds. New inputs are kept below build/ and used again; what breaks is kept as a file.
 fuzz_one() {
     local program=$1 seconds=$2 name corpus seeds log
@@ -34,6 +46,7 @@ fuzz_one() {
 fuzz_all() {
     local seconds=$1 status=0
     build_fuzzers || return 1
+    check_fuzzers || return 1
     export -f fuzz_one
     export FUZZ_BUILD
     # shellcheck disable=SC2016 # the words are the inner shell's

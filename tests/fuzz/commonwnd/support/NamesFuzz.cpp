@@ -2,26 +2,15 @@
 #include "support/FileNameRules.h"
 #include "support/TextCase.h"
 
+#include "fuzz/FuzzInput.h"
+
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 
 using namespace _qv_commonwnd;
+using fuzz::Check;
+using fuzz::UnitsOf;
 
 namespace {
-
-void Check(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-// The bytes as units of 16 bits; the first unit chooses the filter.
-std::wstring UnitsOf(const uint8_t* data, std::size_t size) {
-    std::wstring text;
-    for (std::size_t i = 0; i + 1 < size; i += 2)
-        text += static_cast<wchar_t>(data[i] | data[i + 1] << 8);
-    return text;
-}
 
 bool EndsWith(const std::wstring& text, std::wstring_view end) {
     return text.size() >= end.size() && std::wstring_view(text).substr(text.size() - end.size()) == end;
