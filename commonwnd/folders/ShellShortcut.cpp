@@ -43,6 +43,8 @@ CString ShortcutTargetOrSelf(const CString& path) {
 }
 
 bool IsFoundFolder(const CString& path) {
+    if (path.FindOneOf(L"*?") >= 0) // no name, but a search would find something
+        return false;
     const QuietErrors quiet;
     WIN32_FIND_DATAW data = {};
     const HANDLE search = ::FindFirstFileW(path, &data);

@@ -51,6 +51,8 @@ TEST_F(Shortcuts, FoundFoldersAreNoFilesAndNoRoots) {
     EXPECT_FALSE(IsFoundFolder(m_folder.file(L"a.txt", "x").c_str()));
     EXPECT_FALSE(IsFoundFolder(L"C:\\"));
     EXPECT_FALSE(IsFoundFolder(L""));
+    EXPECT_FALSE(IsFoundFolder(L"?"));
+    EXPECT_FALSE(IsFoundFolder(L"C:\\win*"));
     EXPECT_FALSE(IsFoundFolder(m_folder.path(L"nowhere").c_str()));
 }
 
