@@ -63,6 +63,7 @@ class QVCOMMONWND_API CQVVUFrame : public CWnd, public _qv_commonctrl::CQVBaseFr
 
     void SetUVFace(long nIn, long nTrack, long nOut);
     void ResizeToFace();
+    void StretchMeters(int clientHeight);
     void PaintLine(CDC* pDC, int* pMarks, int nMarks, CRect rect);
     void DeleteSlots();
 

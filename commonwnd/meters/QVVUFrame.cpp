@@ -33,7 +33,6 @@ constexpr DWORD kButtonStyle = WS_CHILD | WS_DISABLED | BS_PUSHLIKE | BS_AUTOCHE
 // Pixels at 96 DPI.
 constexpr int kLowestHeightPx = 298;
 constexpr int kLargestHeightPx = 798;
-constexpr int kButtonSizePx = 15;
 
 UINT DpiOf(const CWnd& wnd) {
     return QV_GetWindowDpi(wnd.m_hWnd);
@@ -48,8 +47,8 @@ struct Channel {
         meter = new CQVVUTableCtrl;
         meter->Create(WS_CHILD, CRect(0, 0, 0, 0), &frame, 0);
         button = new CQVButton;
-        const int size = QV_ScaleForDpi(kButtonSizePx, DpiOf(frame));
-        button->Create(kButtonText, kButtonStyle, CRect(0, 0, size, size), &frame, buttonId);
+        button->Create(kButtonText, kButtonStyle, CRect(0, 0, 0, 0), &frame, buttonId);
+        button->SetAutoSize(TRUE);
     }
 
     void Place(const CRect& meterRect, const CPoint& buttonCorner) {
@@ -191,7 +190,7 @@ void CQVVUFrame::SetUVFace(long nIn, long nTrack, long nOut) {
 void CQVVUFrame::ResizeToFace() {
     CRect client;
     GetClientRect(&client);
-    OnSize(SIZE_RESTORED, client.Width(), client.Height());
+    StretchMeters(client.Height());
     const CRect edges = GetFrameEdges();
     SetWindowPos(nullptr, 0, 0, m_nWidth + edges.left + edges.right,
                  client.Height() + edges.top + edges.bottom, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -244,7 +243,14 @@ HBRUSH CQVVUFrame::OnCtlColor(CDC* pDC, CWnd*, UINT) {
 }
 
 void CQVVUFrame::OnSize(UINT nType, int cx, int cy) {
-    const int bottom = VUFoot(cy, DpiOf(*this));
+    StretchMeters(cy);
+    Invalidate(FALSE);
+    CWnd::OnSize(nType, cx, cy);
+}
+
+// Every meter keeps its top and ends where the face does.
+void CQVVUFrame::StretchMeters(int clientHeight) {
+    const int bottom = VUFoot(clientHeight, DpiOf(*this));
     for (CQVVUTableCtrl* meter : m_pMeter) {
         if (!meter)
             continue;
@@ -254,8 +260,6 @@ void CQVVUFrame::OnSize(UINT nType, int cx, int cy) {
         rect.bottom = std::max<LONG>(rect.top, bottom);
         meter->MoveWindow(rect);
     }
-    Invalidate(FALSE);
-    CWnd::OnSize(nType, cx, cy);
 }
 
 void CQVVUFrame::OnGetMinMaxInfo(MINMAXINFO* pInfo) {

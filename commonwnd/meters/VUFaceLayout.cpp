@@ -78,19 +78,9 @@ CRect VUScale(const VUGroup& group, int clientHeight, UINT dpi) {
     return CRect(group.scale.x, group.scale.y, right, VUFoot(clientHeight, dpi));
 }
 
-std::vector<VUScaleMark> VUScaleMarks(const int* marksDb, int count, int top, int bottom, int labelHeight) {
-    std::vector<VUScaleMark> marks;
-    for (int i = 0; i < count; ++i) {
-        const double pos = _qv_extractrl::QVX_DBToPos(marksDb[i]);
-        marks.push_back({static_cast<int>((100.0 - pos) * (bottom - top) / 100.0) + top, true});
-    }
-    for (int i = count - 2, lower = count - 1; i >= 0; --i) {
-        const auto index = static_cast<size_t>(i);
-        marks[index].labelled = marks[static_cast<size_t>(lower)].y - marks[index].y >= labelHeight;
-        if (marks[index].labelled)
-            lower = i;
-    }
-    return marks;
+int VUMarkY(int markDb, int top, int bottom) {
+    const double fromTop = 100.0 - _qv_extractrl::QVX_DBToPos(markDb);
+    return static_cast<int>(fromTop * (bottom - top) / 100.0) + top;
 }
 
 } // namespace _qv_commonwnd

@@ -3,8 +3,6 @@
 
 #include <afxwin.h>
 
-#include <vector>
-
 namespace _qv_commonwnd {
 
 // One group of meters, client pixels.
@@ -46,14 +44,7 @@ int VUFoot(int clientHeight, UINT dpi);
 // The dB scale of a group in a client area of this height.
 CRect VUScale(const VUGroup& group, int clientHeight, UINT dpi);
 
-// One mark of a dB scale.
-struct VUScaleMark {
-    int y;         // of its tick, client pixels
-    bool labelled; // false: its label would run into that of a lower mark
-};
-
-// The marks (dB, from the top of the scale to its foot) of a scale that fills `top` to `bottom`. The foot is
-// always labelled; the others are as long as `labelHeight` pixels are free below their tick.
-std::vector<VUScaleMark> VUScaleMarks(const int* marksDb, int count, int top, int bottom, int labelHeight);
+// How high, in client pixels, the tick of a mark stands on a scale that fills `top` to `bottom`.
+int VUMarkY(int markDb, int top, int bottom);
 
 } // namespace _qv_commonwnd

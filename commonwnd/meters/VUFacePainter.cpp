@@ -35,7 +35,6 @@ constexpr int kTickRightPx = 3;
 constexpr int kMarkTextRightPx = 8;
 constexpr int kMarkTextAbovePx = 8;
 constexpr int kMarkTextBelowPx = 12;
-constexpr int kMarkLabelPx = 12; // height of a figure
 
 // The skin's UI font in another height.
 void CreateUiFont(CFont& font, int heightPx, UINT dpi) {
@@ -153,15 +152,12 @@ void PaintVUScale(CDC& dc, const int* marksDb, int count, const CRect& place, co
     CreateScaleFont(figures, dc, place.Width() - px(kMarkTextRightPx), dpi);
     const int left = place.right - px(kTickLeftPx);
     const int right = place.right - px(kTickRightPx);
-    const auto marks = VUScaleMarks(marksDb, count, place.top, place.bottom, px(kMarkLabelPx));
     for (int i = 0; i < count; ++i) {
-        const VUScaleMark& mark = marks[static_cast<size_t>(i)];
-        PaintTick(dc, left, right, mark.y - 1, pens.shadow);
-        PaintTick(dc, left, right, mark.y, pens.tick);
-        if (!mark.labelled)
-            continue;
-        const CRect text(place.left, mark.y - px(kMarkTextAbovePx), place.right - px(kMarkTextRightPx),
-                         mark.y + px(kMarkTextBelowPx));
+        const int y = VUMarkY(marksDb[i], place.top, place.bottom);
+        PaintTick(dc, left, right, y - 1, pens.shadow);
+        PaintTick(dc, left, right, y, pens.tick);
+        const CRect text(place.left, y - px(kMarkTextAbovePx), place.right - px(kMarkTextRightPx),
+                         y + px(kMarkTextBelowPx));
         const bool isSilence = marksDb[i] == kSilenceDb;
         CString figure(kSilenceText);
         if (!isSilence)

@@ -13,6 +13,7 @@ constexpr int kCornerPx = 3;
 constexpr int kFocusLinePx = 2;
 constexpr int kTextMarginXPx = 12;
 constexpr int kTextMarginYPx = 5;
+constexpr int kLatchMarginXPx = 5; // of a push-like check box, which is no wider than a channel of a mixer
 constexpr int kContentInsetPx = 2; // least room between a push button's edge and its text
 constexpr int kLatchBarPx = 2;     // accent bar of a latched push button
 constexpr int kMarkGapPx = 6;      // between the box and the text
@@ -242,6 +243,8 @@ CSize ButtonFace::NaturalSize() const {
         return image.FrameSize();
     CClientDC dc(const_cast<CWnd*>(&m_button));
     CSize size = MeasureText(&dc, WindowTextOf(Wnd()), WindowFontOf(Wnd()), DT_SINGLELINE);
+    if (Style() & BS_PUSHLIKE)
+        return size + CSize(2 * Px(kLatchMarginXPx), 0);
     if (GetKind() == Kind::Push)
         return size + CSize(2 * Px(kTextMarginXPx), 2 * Px(kTextMarginYPx));
     const int mark = Px(kMarkBoxPx);

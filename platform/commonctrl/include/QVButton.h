@@ -27,8 +27,8 @@ class QVCOMMONCTRL_API CQVButton : public CButton, public CQVBaseCtrl {
     void SetCheck(int check);
     int GetCheck() const;
 
-    // TRUE: the button takes the size of its image, or of its text and margins, now and on each change of
-    // them.
+    // TRUE: the button takes the size of its image, or of its text and margins (narrow ones for a push-like
+    // check box), now and on each change of them.
     void SetAutoSize(BOOL enable);
 
     void OnSkinChange(UINT reason, HWND wnd) override;

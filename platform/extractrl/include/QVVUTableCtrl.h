@@ -5,8 +5,9 @@
 //   meter.SetPos(static_cast<int>(QVX_DBToPos(peakDB)));              // each time a level is measured
 //
 // The bar grows from the foot; its colours change at -9 dB and -3 dB of the scale of QVX_DBToPos, its pattern
-// too, so that it reads without colours. The highest level of late stays as a mark for 1.5 s and then falls
-// at 25 points a second; level 100 lights the clip mark at the top for 3 s. A click puts both out.
+// too, so that it reads without colours. A level that drops leaves its peak as a mark, for 1.5 s from the
+// drop; then the mark falls at 25 points a second. Level 100 lights the clip mark at the top as long as it
+// lasts and for 3 s from its end. A click puts both out.
 #pragma once
 
 #include "QVExtraCtrlDef.h"

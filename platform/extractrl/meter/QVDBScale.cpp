@@ -4,26 +4,26 @@ namespace _qv_extractrl {
 
 namespace {
 
-// One straight piece of the scale: from dB (included) upwards.
-struct ScalePiece {
-    double fromDB;
-    double fromPercent;
-    double percentPerDB;
+struct ScalePoint {
+    double dB;
+    double percent;
 };
 
-constexpr ScalePiece kPieces[] = {
-    {-20.0, 50.0, 2.5}, {-30.0, 30.0, 2.0}, {-40.0, 15.0, 1.5},
-    {-50.0, 7.5, 0.75}, {-60.0, 2.5, 0.5},  {-70.0, 0.0, 0.25},
-};
+// Straight in between.
+constexpr ScalePoint kPoints[] = {{0.0, 100.0},  {-3.0, 92.0},  {-6.0, 84.0},  {-12.0, 70.0}, {-20.0, 54.0},
+                                  {-30.0, 38.0}, {-40.0, 25.0}, {-60.0, 11.0}, {-120.0, 0.0}};
 
 } // namespace
 
 double QVX_DBToPos(double dB) {
-    if (dB >= 0.0)
-        return 100.0;
-    for (const ScalePiece& piece : kPieces) {
-        if (dB >= piece.fromDB)
-            return (dB - piece.fromDB) * piece.percentPerDB + piece.fromPercent;
+    const ScalePoint* above = kPoints;
+    if (dB >= above->dB)
+        return above->percent;
+    for (const ScalePoint& point : kPoints) {
+        if (dB >= point.dB)
+            return point.percent +
+                   (dB - point.dB) * (above->percent - point.percent) / (above->dB - point.dB);
+        above = &point;
     }
     return 0.0;
 }

@@ -142,17 +142,23 @@ TEST(VUFace, Panel) {
     EXPECT_EQ(CRect(20, 72, 20 + 44 * 8 + 70, 72 + 600 - 92), VUPanel(20, 8, 600, 2 * kDpi));
 }
 
-TEST(VUFace, LowFacesLeaveOutTheFigureAboveTheFoot) {
-    const auto low = VUScaleMarks(kMarksDb, kMarks, 86, 86 + 206, 12);
-    ASSERT_EQ(9u, low.size());
-    EXPECT_EQ(86, low.front().y);
-    EXPECT_EQ(292, low.back().y);
-    for (size_t i = 0; i < low.size(); ++i)
-        EXPECT_EQ(i != 7, low[i].labelled) << i; // -60 dB is five pixels from the foot
-    for (const VUScaleMark& mark : VUScaleMarks(kMarksDb, kMarks, 86, 86 + 500, 12))
-        EXPECT_TRUE(mark.labelled);
-    const auto flat = VUScaleMarks(kMarksDb, kMarks, 86, 86, 12); // no height at all
-    for (size_t i = 0; i < flat.size(); ++i)
-        EXPECT_EQ(i == 8, flat[i].labelled);
-    EXPECT_TRUE(VUScaleMarks(kMarksDb, 0, 0, 100, 12).empty());
+// A figure is at most kFigurePx of its font's pixels high. The scale is as long as the window's height leaves
+// it.
+TEST(VUFace, TheFiguresOfAllMarksHaveRoomAtEveryHeight) {
+    constexpr int kFigurePx = 12;
+    constexpr int kScaleTopPx = 86;
+    constexpr int kShortestScalePx = 158; // in the lowest window, with the skin's frame round the face
+    for (const int dpi : {96, 144, 192}) {
+        const auto px = [dpi](int value) { return value * dpi / 96; };
+        const int top = px(kScaleTopPx);
+        for (int length = px(kShortestScalePx); length <= px(700); ++length) {
+            for (int i = 1; i < kMarks; ++i) {
+                const int above = VUMarkY(kMarksDb[i - 1], top, top + length);
+                ASSERT_GE(VUMarkY(kMarksDb[i], top, top + length) - above, px(kFigurePx))
+                    << kMarksDb[i] << " dB, " << length << " px, " << dpi << " DPI";
+            }
+        }
+    }
+    EXPECT_EQ(86, VUMarkY(0, 86, 292));
+    EXPECT_EQ(292, VUMarkY(-120, 86, 292));
 }

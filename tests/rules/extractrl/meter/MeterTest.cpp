@@ -29,13 +29,13 @@ TEST(MeterBallistics, PeakHoldsThenFallsToTheLevel) {
     meter.SetLevel(50, 1010);
     EXPECT_EQ(meter.Peak(), 80);
     EXPECT_FALSE(meter.IsAtRest());
-    meter.Advance(1000 + kPeakHoldMs - 1);
+    meter.Advance(1010 + kPeakHoldMs - 1);
     EXPECT_EQ(meter.Peak(), 80);
-    meter.Advance(1000 + kPeakHoldMs);
+    meter.Advance(1010 + kPeakHoldMs);
     EXPECT_EQ(meter.Peak(), 79);
-    meter.Advance(1000 + kPeakHoldMs + 9 * kPeakFallMsPerPoint);
+    meter.Advance(1010 + kPeakHoldMs + 9 * kPeakFallMsPerPoint);
     EXPECT_EQ(meter.Peak(), 70);
-    meter.Advance(1000 + kPeakHoldMs + 1000 * kPeakFallMsPerPoint);
+    meter.Advance(1010 + kPeakHoldMs + 1000 * kPeakFallMsPerPoint);
     EXPECT_EQ(meter.Peak(), 50);
     EXPECT_TRUE(meter.IsAtRest());
 }
@@ -46,10 +46,43 @@ TEST(MeterBallistics, ANewPeakIsHeldAnew) {
     meter.SetLevel(10, 10);
     meter.SetLevel(80, kPeakHoldMs - 1);
     meter.SetLevel(10, kPeakHoldMs);
-    meter.Advance(2 * kPeakHoldMs - 2);
-    EXPECT_EQ(meter.Peak(), 80);
     meter.Advance(2 * kPeakHoldMs - 1);
+    EXPECT_EQ(meter.Peak(), 80);
+    meter.Advance(2 * kPeakHoldMs);
     EXPECT_EQ(meter.Peak(), 79);
+}
+
+TEST(MeterBallistics, ThePeakIsHeldFromTheDrop) {
+    QVMeterBallistics meter;
+    meter.SetLevel(80, 0); // and nothing is heard of it until it drops
+    meter.SetLevel(20, 5000);
+    EXPECT_EQ(meter.Peak(), 80);
+    meter.SetLevel(10, 5000 + kPeakHoldMs - 1); // a further drop does not prolong it
+    EXPECT_EQ(meter.Peak(), 80);
+    meter.Advance(5000 + kPeakHoldMs);
+    EXPECT_EQ(meter.Peak(), 79);
+    meter.SetLevel(80, 9000);
+    for (uint64_t now = 9000; now < 12000; now += 40)
+        meter.SetLevel(80, now);
+    meter.SetLevel(0, 12000);
+    meter.Advance(12000 + kPeakHoldMs - 1);
+    EXPECT_EQ(meter.Peak(), 80);
+    meter.Advance(12000 + kPeakHoldMs);
+    EXPECT_EQ(meter.Peak(), 79);
+}
+
+TEST(MeterBallistics, AFullLevelKeepsItsClipMark) {
+    QVMeterBallistics meter;
+    meter.SetLevel(100, 0);
+    EXPECT_TRUE(meter.IsAtRest()); // no clock has to run for it
+    meter.Advance(10 * kClipHoldMs);
+    EXPECT_TRUE(meter.IsClipped());
+    meter.SetLevel(50, 10 * kClipHoldMs);
+    EXPECT_FALSE(meter.IsAtRest());
+    meter.Advance(11 * kClipHoldMs - 1);
+    EXPECT_TRUE(meter.IsClipped());
+    meter.Advance(11 * kClipHoldMs);
+    EXPECT_FALSE(meter.IsClipped());
 }
 
 TEST(MeterBallistics, ClipMarkStaysAndGoesOut) {
@@ -58,9 +91,9 @@ TEST(MeterBallistics, ClipMarkStaysAndGoesOut) {
     EXPECT_FALSE(meter.IsClipped());
     meter.SetLevel(100, 10);
     meter.SetLevel(0, 20);
-    meter.Advance(10 + kClipHoldMs - 1);
+    meter.Advance(20 + kClipHoldMs - 1);
     EXPECT_TRUE(meter.IsClipped());
-    meter.Advance(10 + kClipHoldMs);
+    meter.Advance(20 + kClipHoldMs);
     EXPECT_FALSE(meter.IsClipped());
     meter.SetLevel(100, 10000);
     meter.SetLevel(30, 10001);

@@ -38,6 +38,8 @@ TEST_F(VUFrame, ButtonsStandAboveTheirMetersAndTouchNothing) {
         EXPECT_FALSE(buttons[i]->IsWindowEnabled());
         EXPECT_EQ(static_cast<DWORD>(BS_PUSHLIKE | BS_AUTOCHECKBOX), buttons[i]->GetStyle() & 0xFFFF);
     }
+    buttons[0]->SetWindowText(L"WWW"); // they take the size of their text
+    EXPECT_LT(Place(frame, *buttons[1]).Width(), Place(frame, *buttons[0]).Width());
     EXPECT_NE(nullptr, frame.GetDlgItem(1001));
     EXPECT_NE(nullptr, frame.GetDlgItem(1012));
 }
