@@ -27,17 +27,20 @@ class QVCOMMONWND_API CQVGetIntDlg : public _qv_commonctrl::CQVDialog {
     explicit CQVGetIntDlg(CWnd* parent = nullptr);
     ~CQVGetIntDlg() override;
 
-    // IDOK, and m_nValue is the answer; IDCANCEL, and m_nValue is as it was; -1 when the dialog could not be
-    // made.
+    // IDOK, and m_nValue is the answer; IDCANCEL: m_nValue is as it was or a number that OK refused, take it
+    // only on IDOK; -1 when the dialog could not be made.
     INT_PTR DoModal() override;
 
-    CString m_strTitle;            // caption; empty: the template's
-    CString m_strLabel;            // text before the field; empty: the template's
-    CString m_strUnit;             // text behind the field; empty: the template's
-    long long m_nMax = 100000;     // a number above is refused without a message; the dialog stays
-    long long m_nMin = 0;          // the same for a number below
-    CString m_strIncludeKey;       // the characters that may be typed; empty: all. Cleared for a timecode
-    long long m_nValue = 0;        // initial value and answer
+    CString m_strTitle;        // caption; empty: the template's
+    CString m_strLabel;        // text before the field; empty: the template's
+    CString m_strUnit;         // text behind the field; empty: the template's
+    long long m_nMax = 100000; // a number above is refused without a message; the dialog stays
+    long long m_nMin = 0;      // the same for a number below
+    CString m_strIncludeKey;   // the characters that may be typed; empty: all. Cleared for a timecode
+    // Initial value and answer. The number typed is the one that the text starts with: white space, a sign,
+    // digits, 64 bits (a longer one is the nearest); what follows is left out, and a text that starts
+    // otherwise is 0.
+    long long m_nValue = 0;
     int m_nType = QVGETINT_NUMBER; // QVGetIntType; with any other value OK closes and m_nValue stays
 
     BOOL OnInitDialog() override;

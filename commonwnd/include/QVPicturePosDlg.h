@@ -33,7 +33,9 @@ class QVCOMMONWND_API CQVPicturePosDlg : public _qv_commonctrl::CQVDialog {
     // IDOK; -1 when the dialog could not be made.
     INT_PTR DoModal() override;
 
-    CPoint m_ptPos;         // the picture's top-left corner in the frame, pixels: initial value and answer
+    // The picture's top-left corner in the frame, pixels: initial value and answer. Typed figures are read
+    // from their start ("12px" is 12) and bounded to 32 bits.
+    CPoint m_ptPos;
     CSize m_szRange;        // width and height of the frame, pixels
     CSize m_szPicture;      // width and height of the picture, pixels
     int m_nTrackerMode = 0; // _qv_extractrl::QVTrackerMode: which way the picture may be dragged
@@ -60,6 +62,8 @@ class QVCOMMONWND_API CQVPicturePosDlg : public _qv_commonctrl::CQVDialog {
     void TellHost();
 
     _qv_extractrl::CQVRectTracker* m_pTracker = nullptr; // not owned; null before initialisation
+    _qv_extractrl::CQVEditEx m_XEdit;
+    _qv_extractrl::CQVEditEx m_YEdit;
 };
 
 } // namespace _qv_commonwnd

@@ -85,10 +85,9 @@ void CQVGetIntDlg::OnBnClickedOk() {
     if (m_nType == QVGETINT_TIMECODE) {
         m_nValue = m_TimeCodeEdit.GetFrame();
     } else if (m_nType == QVGETINT_NUMBER) {
-        const long long value = LeadingInteger(WindowTextOf(m_pEdit));
-        if (value < m_nMin || value > m_nMax)
+        m_nValue = LeadingInteger(WindowTextOf(m_pEdit));
+        if (m_nValue < m_nMin || m_nValue > m_nMax)
             return;
-        m_nValue = value;
     }
     CDialog::OnOK();
 }

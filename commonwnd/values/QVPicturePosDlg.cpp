@@ -1,5 +1,6 @@
 #include "QVPicturePosDlg.h"
 
+#include "IntegerText.h"
 #include "support/DialogRows.h"
 #include "module/DictText.h"
 #include "QVModule.h"
@@ -8,8 +9,6 @@
 
 #include <QVCommonClass.h>
 #include <QVSkin.h>
-
-#include <shlwapi.h>
 
 using namespace _qv_commonctrl;
 using _qv_extractrl::CQVRectTracker;
@@ -49,6 +48,8 @@ INT_PTR CQVPicturePosDlg::DoModal() {
 BOOL CQVPicturePosDlg::OnInitDialog() {
     m_bInited = FALSE;
     m_pTracker = nullptr;
+    m_XEdit.SubclassDlgItem(IDC_PICTURE_X, this);
+    m_YEdit.SubclassDlgItem(IDC_PICTURE_Y, this);
     {
         TemplateTranslation translation;
         CQVDialog::OnInitDialog();
@@ -116,7 +117,7 @@ void CQVPicturePosDlg::OnEnChangeYpos() {
 void CQVPicturePosDlg::OnTyped(int id, LONG& coordinate) {
     if (!m_bInited)
         return;
-    coordinate = StrToIntW(WindowTextOf(GetDlgItem(id)));
+    coordinate = LeadingInt32(WindowTextOf(GetDlgItem(id)));
     MoveTracker();
     GetDefSize(m_ptPos, 0);
     TellHost();
@@ -130,8 +131,8 @@ void CQVPicturePosDlg::OnBnClickedDef() {
 }
 
 void CQVPicturePosDlg::OnBnClickedOk() {
-    m_ptPos.x = StrToIntW(WindowTextOf(GetDlgItem(IDC_PICTURE_X)));
-    m_ptPos.y = StrToIntW(WindowTextOf(GetDlgItem(IDC_PICTURE_Y)));
+    m_ptPos.x = LeadingInt32(WindowTextOf(GetDlgItem(IDC_PICTURE_X)));
+    m_ptPos.y = LeadingInt32(WindowTextOf(GetDlgItem(IDC_PICTURE_Y)));
     GetDefSize(m_ptPos, 0);
     CQVDialog::OnOK();
 }

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kFrameLines = 2;
 constexpr int kTextInsetPx = 3; // between the frame and the text of a single-line field
+constexpr WPARAM kCharOfCtrlA = 1;
 
 bool IsInsideCombo(HWND wnd) {
     return IsWindowOfClass(::GetParent(wnd), WC_COMBOBOXW);
@@ -121,9 +122,10 @@ void CQVEdit::PaintFrame() {
     DrawFrameLines(&dc, area, QV_GetSysColor(QVCLR_EDIT_FRAME_OUTER), line);
     area.DeflateRect(line, line);
     DrawFrameLines(&dc, area,
-                   QV_GetSysColor(focused ? QVCLR_ACCENT
-                                  : hot   ? QVCLR_SCROLL_THUMB_HOT
-                                          : QVCLR_EDIT_FRAME_INNER),
+                   QV_GetSysColor(m_bRefused ? QVCLR_METER_OVER
+                                  : focused  ? QVCLR_ACCENT
+                                  : hot      ? QVCLR_SCROLL_THUMB_HOT
+                                             : QVCLR_EDIT_FRAME_INNER),
                    line);
     if (GetStyle() & ES_MULTILINE)
         return; // between frame and text there are scroll bars at most
@@ -171,10 +173,35 @@ void CQVEdit::FollowMouse(UINT message) {
     PaintFrame();
 }
 
+void CQVEdit::ShowRefused() {
+    ::MessageBeep(MB_OK);
+    m_bRefused = true;
+    PaintFrame();
+}
+
+// What the user does next is no refusal any more, until the handler finds so.
+void CQVEdit::EndRefusal(UINT message) {
+    const bool isNext = message == WM_KEYDOWN || message == WM_CHAR || message == WM_LBUTTONDOWN ||
+                        message == WM_SETTEXT || message == WM_PASTE || message == WM_KILLFOCUS;
+    if (!m_bRefused || !isNext)
+        return;
+    m_bRefused = false;
+    PaintFrame();
+}
+
+LRESULT CQVEdit::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CHAR && wParam == kCharOfCtrlA) {
+        SetSel(0, -1);
+        return 0;
+    }
+    return CEdit::DefWindowProc(message, wParam, lParam);
+}
+
 LRESULT CQVEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_frameStep == FrameStep::Due && message != WM_DESTROY && message != WM_NCDESTROY)
         TakeOverFrame();
     FollowMouse(message);
+    EndRefusal(message);
     switch (message) {
     case WM_NCCALCSIZE:
         if (m_bFramed)

@@ -9,7 +9,7 @@ namespace _qv_commonctrl {
 // Wears an EDIT window of any style. A border (WS_BORDER or WS_EX_CLIENTEDGE) is replaced by the skin's
 // frame; without one, and inside a combo box, the field stays frameless. The text of a single-line field
 // stands in the middle of its height. Scroll bars of a multi-line field are skinned. The parent must reflect
-// WM_CTLCOLOR* to the field, as every framework window does.
+// WM_CTLCOLOR* to the field, as every framework window does. Ctrl+A selects the whole text.
 class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     DECLARE_DYNAMIC(CQVEdit)
 
@@ -17,8 +17,13 @@ class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     CQVEdit();
     ~CQVEdit() override;
 
+    // Tells the user that the field does not take what was typed or pasted: a sound, and the frame in the
+    // colour of a meter's clip mark until the next key, click or text, or until the focus leaves.
+    void ShowRefused();
+
   protected:
     void PreSubclassWindow() override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
@@ -30,6 +35,7 @@ class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     void PaintFrame();
     void PaintDisabled(CDC* dc, const CRect& client) const;
     void FollowMouse(UINT message);
+    void EndRefusal(UINT message);
     void AfterMessage(UINT message, LRESULT result);
     int GroundColor() const;
     int TextColor() const;
@@ -38,6 +44,7 @@ class QVCOMMONCTRL_API CQVEdit : public CEdit, public CQVBaseCtrl {
     FrameStep m_frameStep = FrameStep::None;
     bool m_bFramed = false;
     bool m_bHot = false;
+    bool m_bRefused = false; // what was typed last was not taken
 };
 
 } // namespace _qv_commonctrl

@@ -2,6 +2,8 @@
 
 #include "QVEditTools.h"
 
+#include <algorithm>
+
 namespace _qv_extractrl {
 
 namespace {
@@ -24,12 +26,25 @@ void CQVEditEx::SetIncludeKey(const CString& strKeys) {
     m_strIncludeKey = strKeys;
 }
 
+LRESULT CQVEditEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (QV_EndsFraction(message, wParam))
+        m_bInFraction = false;
+    return CQVEdit::WindowProc(message, wParam, lParam);
+}
+
+bool CQVEditEx::Accepts(wchar_t c) const {
+    if (!m_strIncludeKey.IsEmpty())
+        return m_strIncludeKey.Find(c) >= 0;
+    return !(GetStyle() & ES_NUMBER) || (c >= L'0' && c <= L'9');
+}
+
 void CQVEditEx::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
     // Control characters are the edit's own keys: backspace, copy, paste, undo.
-    const bool isAccepted = m_strIncludeKey.IsEmpty() || nChar < kFirstPrintable ||
-                            m_strIncludeKey.Find(static_cast<wchar_t>(nChar)) >= 0;
-    if (isAccepted)
+    const auto typed = static_cast<wchar_t>(nChar);
+    if (nChar < kFirstPrintable || QV_TakesTyped(typed, Accepts(typed), m_bInFraction))
         CQVEdit::OnChar(nChar, nRepCnt, nFlags);
+    else
+        ShowRefused();
 }
 
 LRESULT CQVEditEx::OnPaste(WPARAM, LPARAM) {
@@ -37,13 +52,13 @@ LRESULT CQVEditEx::OnPaste(WPARAM, LPARAM) {
         return Default();
     if (GetStyle() & ES_READONLY)
         return 0;
-    CString accepted;
-    for (const wchar_t c : QV_ReadClipboard(m_hWnd)) {
-        if (m_strIncludeKey.Find(c) >= 0)
-            accepted += c;
-    }
-    if (!accepted.IsEmpty())
-        ReplaceSel(accepted, TRUE);
+    const std::wstring pasted = QV_ReadClipboard(m_hWnd);
+    if (pasted.empty())
+        return 0;
+    if (std::all_of(pasted.begin(), pasted.end(), [this](wchar_t c) { return Accepts(c); }))
+        ReplaceSel(pasted.c_str(), TRUE);
+    else
+        ShowRefused();
     return 0;
 }
 

@@ -26,6 +26,10 @@ std::wstring Trimmed(std::wstring_view text) {
     return std::wstring(text.substr(first, text.find_last_not_of(kBlanks) - first + 1));
 }
 
+bool IsDigit(wchar_t c) {
+    return c >= L'0' && c <= L'9';
+}
+
 bool HasPostedCommand(HWND parent) {
     MSG message;
     return ::PeekMessageW(&message, parent, WM_COMMAND, WM_COMMAND, PM_NOREMOVE | PM_NOYIELD) != FALSE;
@@ -75,6 +79,32 @@ void QV_SendEnter(CWnd* control) {
     const HWND button = ::GetDlgItem(parent, id);
     if (button && ::IsWindowEnabled(button))
         ::PostMessageW(parent, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+}
+
+bool QV_TakesTyped(wchar_t typed, bool isAccepted, bool& inFraction) {
+    if (!isAccepted && (typed == L'.' || typed == L','))
+        inFraction = true;
+    return isAccepted && !(inFraction && IsDigit(typed));
+}
+
+bool QV_EndsFraction(UINT message, WPARAM wParam) {
+    switch (message) {
+    case WM_KEYDOWN:
+        return wParam == VK_BACK || wParam == VK_DELETE || wParam == VK_RETURN ||
+               (wParam >= VK_PRIOR && wParam <= VK_DOWN); // Page Up to the arrows
+    case WM_LBUTTONDOWN:
+    case WM_KILLFOCUS:
+    case WM_SETTEXT:
+    case WM_PASTE:
+    case WM_CUT:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_SETSEL:
+    case EM_REPLACESEL:
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool QV_AsksForEnter(LPARAM dlgCodeParam) {

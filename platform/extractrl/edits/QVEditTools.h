@@ -21,6 +21,15 @@ void QV_SendEditNotify(CWnd* control, int code);
 // afterwards.
 void QV_SendEnter(CWnd* control);
 
+// Whether a field takes a typed character; isAccepted: whether it would by the character alone. A decimal
+// point that is refused takes the digits typed behind it along: "12.7" in a field of whole numbers must not
+// become 127. inFraction: kept by the field for that; it ends with QV_EndsFraction.
+bool QV_TakesTyped(wchar_t typed, bool isAccepted, bool& inFraction);
+
+// Whether a message means that what is typed next stands elsewhere: a key that moves or erases, a click,
+// another text or selection, the end of the focus.
+bool QV_EndsFraction(UINT message, WPARAM wParam);
+
 // Whether WM_GETDLGCODE asks about a key that Enter makes.
 bool QV_AsksForEnter(LPARAM dlgCodeParam);
 

@@ -119,12 +119,16 @@ void CQVNumberEditEx::ShowPos(bool bTellParent) {
     m_strShown = QV_FormatNumber(m_dPos, m_nDecimals).c_str();
     if (!m_hWnd || TextOf(*this) == m_strShown)
         return;
-    if (bTellParent) {
-        SetWindowText(m_strShown);
-    } else {
+    if (!bTellParent) {
         const SilentScope silent(m_nSilent);
         SetWindowText(m_strShown);
+        return;
     }
+    // As if it were typed, so that it can be taken back.
+    SetSel(0, -1);
+    ReplaceSel(m_strShown, TRUE);
+    if (TextOf(*this) != m_strShown) // longer than what may be typed
+        SetWindowText(m_strShown);
 }
 
 void CQVNumberEditEx::SendChanged() {
@@ -160,6 +164,8 @@ bool CQVNumberEditEx::MayReplaceSelection(const CString& strNew) const {
 }
 
 LRESULT CQVNumberEditEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (QV_EndsFraction(message, wParam))
+        m_bInFraction = false;
     LRESULT result = CQVEdit::WindowProc(message, wParam, lParam);
     if (message == WM_CREATE && result != -1 && GetWindowTextLength() == 0)
         ShowPos(false);
@@ -175,8 +181,10 @@ void CQVNumberEditEx::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
         wchar_t typed = QV_NarrowChar(static_cast<wchar_t>(nChar));
         if (typed == L',')
             typed = L'.';
-        if (!MayReplaceSelection(CString(typed)))
+        if (!QV_TakesTyped(typed, MayReplaceSelection(CString(typed)), m_bInFraction)) {
+            ShowRefused();
             return;
+        }
         nChar = typed;
         DefWindowProc(WM_CHAR, nChar, MAKELPARAM(nRepCnt, nFlags));
         return;
@@ -229,8 +237,12 @@ LRESULT CQVNumberEditEx::OnPaste(WPARAM, LPARAM) {
     CString pasted;
     for (const wchar_t c : QV_ReadClipboard(m_hWnd))
         pasted += QV_NarrowChar(c);
-    if (!pasted.IsEmpty() && MayReplaceSelection(pasted))
+    if (pasted.IsEmpty())
+        return 0;
+    if (MayReplaceSelection(pasted))
         ReplaceSel(pasted, TRUE);
+    else
+        ShowRefused();
     return 0;
 }
 

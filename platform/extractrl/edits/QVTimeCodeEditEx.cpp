@@ -129,6 +129,8 @@ __int64 CQVTimeCodeEditEx::GetFrame() const {
 }
 
 LRESULT CQVTimeCodeEditEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!m_bShowing && QV_EndsFraction(message, wParam))
+        m_pTyping->EndFraction();
     LRESULT result = CQVEdit::WindowProc(message, wParam, lParam);
     if (message == WM_CREATE && result != -1)
         ShowTyping();
@@ -198,11 +200,13 @@ void CQVTimeCodeEditEx::OnChar(UINT nChar, UINT, UINT) {
     const bool isText = nChar >= kFirstPrintable; // Enter, Escape and Tab have been dealt with as keys
     if (IsReadOnly() || (!isText && nChar != kBackspace))
         return;
+    bool isTaken = true;
     if (isText)
-        Typing().Type(QV_NarrowChar(static_cast<wchar_t>(nChar)));
+        isTaken = Typing().Type(QV_NarrowChar(static_cast<wchar_t>(nChar)));
     else
         Typing().EraseBackwards();
-    ShowTyping();
+    if (ShowTyping() && !isTaken)
+        ShowRefused();
 }
 
 void CQVTimeCodeEditEx::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
@@ -290,8 +294,9 @@ LRESULT CQVTimeCodeEditEx::OnPaste(WPARAM, LPARAM) {
     std::wstring pasted = QV_ReadClipboard(m_hWnd);
     for (wchar_t& c : pasted)
         c = QV_NarrowChar(c);
-    Typing().TakeText(pasted);
-    ShowTyping();
+    const bool isTaken = Typing().TakeText(pasted);
+    if (ShowTyping() && !isTaken)
+        ShowRefused();
     return 0;
 }
 

@@ -1,5 +1,7 @@
 #include "QVTimecodeTyping.h"
 
+#include "QVEditTools.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -38,6 +40,10 @@ std::wstring Zeros(int count) {
     return std::wstring(static_cast<size_t>(std::max(count, 0)), L'0');
 }
 
+bool StartsWith(const std::wstring& text, wchar_t c) {
+    return !text.empty() && text.front() == c;
+}
+
 bool IsRelative(const std::wstring& text) {
     if (text.empty())
         return false;
@@ -54,6 +60,21 @@ bool IsAllDigits(const std::wstring& text) {
 bool IsNegativeLabel(const std::wstring& text) {
     return !text.empty() && text[0] == L'-' &&
            std::count_if(text.begin() + 1, text.end(), IsSeparator) >= kLastField;
+}
+
+// "-10" as it was copied from a field of counts.
+bool IsNegativeCount(const std::wstring& text) {
+    return text.size() > 1 && text[0] == L'-' && IsDigit(text[1]);
+}
+
+// Whether a text may stand in a field of counts while it is being typed.
+bool MayBecomeCount(const std::wstring& text) {
+    const size_t digits = text.find_first_not_of(L"+-=");
+    const std::wstring prefix = text.substr(0, digits);
+    return (prefix.empty() || prefix == L"+" || prefix == L"-" || prefix == L"=" || prefix == L"--" ||
+            prefix == L"=-") &&
+           (digits == std::wstring::npos ||
+            std::all_of(text.begin() + static_cast<ptrdiff_t>(digits), text.end(), IsDigit));
 }
 
 // How many characters stand before the first field of a label.
@@ -79,7 +100,7 @@ void QVTimecodeTyping::SetRate(const _qv_commonctrl::TimecodeFrameRate& rate) {
 }
 
 void QVTimecodeTyping::SetFrame(long long frame) {
-    if (m_isTyping && frame == m_frame)
+    if (frame == m_frame)
         return;
     Drop();
     m_frame = frame;
@@ -90,7 +111,9 @@ void QVTimecodeTyping::SetFrame(long long frame) {
 long long QVTimecodeTyping::Frame() const {
     long long typed = 0;
     bool isRelative = false;
-    return m_isTyping && ReadTyped(typed, isRelative) ? typed : m_frame;
+    if (!m_isTyping)
+        return m_frame;
+    return ReadTyped(typed, isRelative) ? typed : m_baseFrame;
 }
 
 bool QVTimecodeTyping::TakeNews() {
@@ -157,9 +180,10 @@ bool QVTimecodeTyping::Parse(const std::wstring& text, long long current, long l
 }
 
 bool QVTimecodeTyping::ReadTyped(long long& frame, bool& isRelative) const {
+    // Unless it was typed first, a minus is the sign of the frame that was there.
     std::wstring text = m_entry;
-    if (text.empty()) // over a field the text is a whole label, whose minus is a sign
-        text = IsLabel() ? L"=" + m_text : m_text;
+    if (text.empty())
+        text = m_isDistance || StartsWith(m_text, L'=') ? m_text : L"=" + m_text;
     isRelative = IsRelative(text);
     return Parse(text, m_baseFrame, frame);
 }
@@ -176,6 +200,7 @@ void QVTimecodeTyping::Drop() {
     m_isTyping = false;
     m_entry.clear();
     m_fieldDigits = 0;
+    m_isDistance = false;
 }
 
 // Takes the text as far as it is typed; the text itself stays as it is.
@@ -183,8 +208,8 @@ void QVTimecodeTyping::TakeTyped() {
     Begin();
     long long frame = 0;
     bool isRelative = false;
-    if (ReadTyped(frame, isRelative) && !isRelative) // a distance counts when it is finished
-        m_frame = frame;
+    // A distance counts when it is finished; a text that stands for no frame is as if nothing were typed.
+    m_frame = ReadTyped(frame, isRelative) && !isRelative ? frame : m_baseFrame;
 }
 
 void QVTimecodeTyping::Finish() {
@@ -214,7 +239,7 @@ void QVTimecodeTyping::TakeFrame(long long frame) {
 
 bool QVTimecodeTyping::TakeText(std::wstring text) {
     long long frame = 0;
-    if (IsLabel() && IsNegativeLabel(text))
+    if (IsLabel() ? IsNegativeLabel(text) : IsNegativeCount(text))
         text.insert(0, L"=");
     if (!Parse(text, Frame(), frame))
         return false;
@@ -231,11 +256,8 @@ void QVTimecodeTyping::GoBack() {
 
 // Typing.
 
-void QVTimecodeTyping::Type(wchar_t typed) {
-    if (IsLabel())
-        TypeLabelChar(typed);
-    else
-        TypeCountChar(typed);
+bool QVTimecodeTyping::Type(wchar_t typed) {
+    return IsLabel() ? TypeLabelChar(typed) : TypeCountChar(typed);
 }
 
 void QVTimecodeTyping::ReplaceSelected(const std::wstring& typed) {
@@ -245,44 +267,62 @@ void QVTimecodeTyping::ReplaceSelected(const std::wstring& typed) {
     m_selection.to = m_selection.from;
 }
 
-void QVTimecodeTyping::TypeCountChar(wchar_t typed) {
+bool QVTimecodeTyping::TypeCountChar(wchar_t typed) {
     const auto [from, to] = m_selection;
-    if (!IsDigit(typed) && !(IsPrefix(typed) && from <= 1))
-        return;
-    if (Length(m_text) - (to - from) >= kMostEntryChars)
-        return;
+    std::wstring would = m_text;
+    would.replace(static_cast<size_t>(from), static_cast<size_t>(to - from), 1, typed);
+    const bool isFirst = would.size() == 1;
+    const bool isAccepted =
+        MayBecomeCount(would) && Length(would) <= kMostEntryChars && (typed != L'+' || isFirst);
+    if (!QV_TakesTyped(typed, isAccepted, m_inFraction))
+        return false;
     Begin();
+    m_isDistance = isFirst ? typed == L'+' || typed == L'-' : m_isDistance && from > 0;
     ReplaceSelected(std::wstring(1, typed));
+    TakeTyped();
+    return true;
+}
+
+// Takes characters out of a count.
+void QVTimecodeTyping::EraseCount(int from, int to) {
+    Begin();
+    m_isDistance = m_isDistance && from > 0;
+    m_selection = {from, to};
+    ReplaceSelected(L"");
     TakeTyped();
 }
 
-void QVTimecodeTyping::TypeLabelChar(wchar_t typed) {
-    if (!m_entry.empty() || IsPrefix(typed) || (IsAllSelected() && !m_isTyping)) {
-        TypeEntryChar(typed);
-    } else if (IsDigit(typed)) {
+bool QVTimecodeTyping::TypeLabelChar(wchar_t typed) {
+    if (!m_entry.empty() || IsPrefix(typed) || (IsAllSelected() && !m_isTyping))
+        return TypeEntryChar(typed);
+    if (IsDigit(typed)) {
         TypeFieldDigit(SelectedField(), typed);
     } else if (IsSeparator(typed)) {
         const int next = std::min(SelectedField() + 1, kLastField);
         Finish();
         SelectField(next);
+    } else {
+        return false;
     }
+    return true;
 }
 
 // Typing over the whole label: digits fill from the right.
-void QVTimecodeTyping::TypeEntryChar(wchar_t typed) {
+bool QVTimecodeTyping::TypeEntryChar(wchar_t typed) {
     const bool isPrefixPlace =
         m_entry.empty() || (m_entry.size() == 1 && IsPrefix(m_entry[0]) && typed == L'-');
     if (!IsDigit(typed) && !IsSeparator(typed) && !(IsPrefix(typed) && isPrefixPlace))
-        return;
+        return false;
     std::wstring longer = m_entry + typed;
     if (Length(longer) > (IsAllDigits(longer) ? MostEntryDigits() : kMostEntryChars))
-        return;
+        return false;
     if (m_entry.empty())
         Finish(); // a field was being typed
     Begin();
     m_entry = std::move(longer);
     ShowEntry();
     TakeTyped();
+    return true;
 }
 
 void QVTimecodeTyping::ShowEntry() {
@@ -324,10 +364,8 @@ void QVTimecodeTyping::TypeFieldDigit(int field, wchar_t digit) {
 
 void QVTimecodeTyping::EraseBackwards() {
     if (!IsLabel()) {
-        if (m_selection.from == m_selection.to)
-            m_selection.from = std::max(m_selection.from - 1, 0);
-        ReplaceSelected(L"");
-        TakeTyped();
+        const auto [from, to] = m_selection;
+        EraseCount(from < to ? from : std::max(from - 1, 0), to);
         return;
     }
     if (m_entry.empty()) {
@@ -349,10 +387,8 @@ void QVTimecodeTyping::EraseForwards() {
         EraseLabel();
         return;
     }
-    if (m_selection.from == m_selection.to)
-        m_selection.to = std::min(m_selection.to + 1, Length(m_text));
-    ReplaceSelected(L"");
-    TakeTyped();
+    const auto [from, to] = m_selection;
+    EraseCount(from, from < to ? to : std::min(to + 1, Length(m_text)));
 }
 
 // The selected field, or the whole label, becomes 0.

@@ -31,7 +31,8 @@ class QVTimecodeTyping {
     const _qv_commonctrl::TimecodeFrameRate& Rate() const { return m_rate; }
     bool IsLabel() const { return m_mode == QVTimecodeText::Timecode; }
 
-    // The program's frame. A text that is being typed is given up, unless it stands for this very frame.
+    // The program's frame. Another one than the field's gives up what is being typed and what could be gone
+    // back to.
     void SetFrame(long long frame);
 
     // What the field shows, and what of it is selected.
@@ -40,13 +41,15 @@ class QVTimecodeTyping {
     // The user has selected something else.
     void Select(QVTextSpan selection) { m_selection = selection; }
 
-    // The frame with what has been typed so far.
+    // The frame with what has been typed so far; that from before the typing while the text stands for none.
     long long Frame() const;
     // Whether the frame is another one than at the last call; the parent is told then.
     bool TakeNews();
 
-    // Keys. A character that means nothing where it is typed is left out.
-    void Type(wchar_t typed);
+    // Keys. A character is refused (false) when it means nothing where it is typed. Behind a decimal point
+    // that a count refused digits are refused as well, until EndFraction is called.
+    bool Type(wchar_t typed);
+    void EndFraction() { m_inFraction = false; }
     void EraseBackwards();
     void EraseForwards();
     void SelectAll();
@@ -82,9 +85,10 @@ class QVTimecodeTyping {
     void TakeFrame(long long frame);
 
     void ReplaceSelected(const std::wstring& typed);
-    void TypeCountChar(wchar_t typed);
-    void TypeLabelChar(wchar_t typed);
-    void TypeEntryChar(wchar_t typed);
+    void EraseCount(int from, int to);
+    bool TypeCountChar(wchar_t typed);
+    bool TypeLabelChar(wchar_t typed);
+    bool TypeEntryChar(wchar_t typed);
     void TypeFieldDigit(int field, wchar_t digit);
     void SetFieldText(int field, const std::wstring& digits);
     void ShowEntry();
@@ -100,6 +104,8 @@ class QVTimecodeTyping {
     long long m_baseFrame = 0; // the frame when typing began
     std::wstring m_entry;      // typed so far over a whole label; empty: nothing
     int m_fieldDigits = 0;     // digits typed into the selected field of a label so far
+    bool m_isDistance = false; // a count that begins with a sign which was typed first
+    bool m_inFraction = false; // a count has just refused a decimal point
     bool m_isTyping = false;   // the text is the user's and not finished
 };
 

@@ -9,14 +9,18 @@
 //   edit->SetPos(100.0);
 //
 // Messages to the parent:
-//   EN_CHANGE (WM_COMMAND)   the user has changed the text, each key; not sent for SetPos, SetRange, SetDecimals
-//   QVN_EDITNOTIFY, 1        the user has finished a new value: the edit lost the focus, or Enter, an arrow key,
-//                            Page Up/Down or the wheel was used
+//   EN_CHANGE (WM_COMMAND)   the user has changed the text, each key; not sent for SetPos, SetRange and
+//                            SetDecimals
+//   QVN_EDITNOTIFY, 1        the user has finished a new value: the edit lost the focus, or Enter, an arrow
+//                            key, Page Up/Down or the wheel was used
 //   QVN_EDITNOTIFY, 4        Enter was pressed (after 1, when there is a new value). A parent that does not
-//                            answer by posting a command has its default button pressed, as with any edit of a
-//                            dialog.
+//                            answer by posting a command has its default button pressed, as with any edit of
+//                            a dialog.
 //
-// The range is applied when the value is finished, so that every number can be typed; GetPos is inside it always.
+// What cannot be taken is refused, and the field shows it (CQVEdit::ShowRefused): of typed texts character by
+// character, where a refused decimal point takes the digits behind it along; a pasted text as a whole. Ctrl+Z
+// takes back what was typed, pasted or stepped. The range is applied when the value is finished, so that
+// every number can be typed; GetPos is inside it always.
 #pragma once
 
 #include "QVExtraCtrlDef.h"
@@ -87,9 +91,10 @@ class QVEXTRACTRL_API CQVNumberEditEx : public _qv_commonctrl::CQVEdit {
     double m_dPos = 0.0;
     double m_dTold = 0.0; // the position the parent knows
     int m_nDecimals = 0;
-    int m_nSilent = 0;    // above 0: changes of the text are the program's, not the user's
-    int m_nWheelRest = 0; // wheel movement smaller than a notch
-    CString m_strShown;   // the text of m_dPos; any other text is the user's
+    int m_nSilent = 0;          // above 0: changes of the text are the program's, not the user's
+    int m_nWheelRest = 0;       // wheel movement smaller than a notch
+    bool m_bInFraction = false; // a decimal point has just been refused
+    CString m_strShown;         // the text of m_dPos; any other text is the user's
 };
 
 } // namespace _qv_extractrl

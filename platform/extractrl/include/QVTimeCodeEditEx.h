@@ -8,10 +8,13 @@
 // Keys. Timecode: with the whole text selected (Tab into it, Ctrl+A) digits fill from the right, and anything
 // that QV_ParseTimecode reads may be typed; with one field selected (click, Left, Right, Home, End) digits
 // overtype that field and go on to the next. Up, Down and the wheel change the selected field by one, with
-// Shift by ten; Delete and Backspace set it to 0. Frame count: a plain edit of digits. Both: '+' or '-' in
-// front moves the position by that much, '=' in front makes '-' a sign; Enter or leaving the edit finishes;
-// Ctrl+Z goes back to the value before the last change. Escape belongs to the dialog. Pasted texts are read
-// like typed ones; a complete label with '-' before it is a negative frame. What cannot be read is refused.
+// Shift by ten; Delete and Backspace set it to 0. Frame count: a plain edit of digits. Both: '+' or '-' typed
+// first moves the position by that much, '=' typed first makes '-' a sign, and a '-' that stands before a
+// negative frame stays its sign; Enter or leaving the edit finishes, and a text that stands for no frame (an
+// empty one) gives the frame from before the typing; Ctrl+Z goes back to the value before the last change by
+// the user. Escape belongs to the dialog. Pasted texts are read like typed ones; '-' before a complete label
+// or before a count is the sign of a negative frame. What cannot be read is refused, and the field shows it
+// (CQVEdit::ShowRefused); a decimal point that a frame count refuses takes the digits behind it along.
 //
 // Messages to the parent:
 //   QVN_EDITNOTIFY, 1   the frame has changed: with each key that makes one, or by SetFrame with bNotify
@@ -50,8 +53,8 @@ class QVEXTRACTRL_API CQVTimeCodeEditEx : public _qv_commonctrl::CQVEdit {
     void SetFrameRate(_qv_commonctrl::TimecodeFrameRate rate);
     _qv_commonctrl::TimecodeFrameRate GetFrameRate() const;
 
-    // The frame, any 64-bit number. bNotify TRUE: the parent gets QVN_EDITNOTIFY 1 when the frame is another
-    // one than before. A text that is being typed is given up, unless it stands for this very frame.
+    // The frame, any 64-bit number. Another one than before gives up a text that is being typed and what
+    // Ctrl+Z would go back to; bNotify TRUE: the parent gets QVN_EDITNOTIFY 1 for it.
     void SetFrame(__int64 nFrame, BOOL bNotify);
     // The frame as it stands, with what has been typed so far.
     __int64 GetFrame() const;

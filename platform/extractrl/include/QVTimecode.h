@@ -87,13 +87,14 @@ enum class QVTimecodeText {
 };
 
 // Reads what a person types. Spaces at both ends are left out.
-//   timecode: digits fill from the right, two to a field ("1234" is 12 seconds 34 frames; three digits of frames
-//     for rates above 100); ':' ';' '.' ',' or spaces part fields, and then fields are right-aligned too ("1.0.0"
-//     is one minute) and hold any number of digits; an empty field is 0. More than four fields are refused, a
-//     fifth behind a label with shared frames is the sub-frame.
-//   frame count: digits; '.' ',' and spaces between them are grouping and left out.
-//   '+' or '-' before it: relative to nCurrent ("+10" is ten frames on). '=' before it: absolute, and then a '-'
-//     stands for a negative frame ("=-10"). "--10" is the same as "=-10".
+//   timecode: digits fill from the right, two to a field ("1234" is 12 seconds 34 frames; three digits of
+//     frames for rates above 100); ':' ';' '.' ',' or spaces part fields, and then fields are right-aligned too
+//     ("1.0.0" is one minute) and hold any number of digits; an empty field is 0. More than four fields are
+//     refused, a fifth behind a label with shared frames is the sub-frame.
+//   frame count: digits; '.' ',' and spaces before groups of three digits are left out ("1,234 567"),
+//     elsewhere they are refused ("12.7").
+//   '+' or '-' before it: relative to nCurrent ("+10" is ten frames on). '=' before it: absolute, and then a
+//     '-' stands for a negative frame ("=-10"). "--10" is the same as "=-10".
 // Labels that do not exist are corrected as by QV_CorrectLabel; hours past 23 run round the clock. An
 // absolute label stays in the day of nCurrent when that is not negative. Results beyond 64 bits are the
 // nearest 64-bit frame. Returns false, and nFrame untouched, for null, no digit at all, a field of more than

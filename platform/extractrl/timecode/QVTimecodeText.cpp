@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -190,7 +191,26 @@ bool ParseLabel(std::wstring_view text, const Prefix& prefix, const TimecodeFram
     return true;
 }
 
+// Whether the separators of a count stand before groups of three digits, as in "1,234 567"; "12.7" is no
+// count.
+bool IsGrouped(std::wstring_view text) {
+    const auto isSeparator = [](wchar_t c) { return c == L'.' || c == L',' || IsSpace(c); };
+    constexpr ptrdiff_t kGroupDigits = 3;
+    auto end = text.end();
+    while (true) {
+        const auto digits = std::find_if(std::make_reverse_iterator(end), text.rend(), isSeparator);
+        if (digits == text.rend())
+            return true;
+        const auto group = digits.base();
+        if (end - group != kGroupDigits)
+            return false;
+        end = group - 1;
+    }
+}
+
 bool ParseCount(std::wstring_view text, const Prefix& prefix, long long current, long long& frame) {
+    if (!IsGrouped(text))
+        return false;
     unsigned long long magnitude = 0;
     bool hasDigit = false;
     constexpr unsigned long long kLargest = static_cast<unsigned long long>(LLONG_MAX) + 1;

@@ -120,6 +120,7 @@ const ParseRow kCounts[] = {
     {L"75", {25.0}, 0, 75},
     {L" 1 234 567 ", {25.0}, 0, 1234567},
     {L"1,234.567", {25.0}, 0, 1234567},
+    {L"1.000", {25.0}, 0, 1000},
     {L"+5", {25.0}, 10, 15},
     {L"-5", {25.0}, 10, 5},
     {L"=-5", {25.0}, 10, -5},
@@ -166,7 +167,8 @@ TEST(TimecodeParse, RefusesTheRest) {
         EXPECT_EQ(frame, -12345);
     }
     long long frame = -12345;
-    EXPECT_FALSE(QV_ParseTimecode(L"1:2", {25.0}, 0, frame, QVTimecodeText::FrameCount));
+    for (const wchar_t* count : {L"1:2", L"12.7", L"12,75", L"1 2", L"1,2345", L"12.", L"-12.7", L"1,,234"})
+        EXPECT_FALSE(QV_ParseTimecode(count, {25.0}, 0, frame, QVTimecodeText::FrameCount)) << count;
     EXPECT_FALSE(QV_ParseTimecode(std::wstring(1 << 20, L':').c_str(), {25.0}, 0, frame));
     EXPECT_FALSE(QV_ParseTimecode(std::wstring(1 << 20, L'9').c_str(), {25.0}, 0, frame));
     EXPECT_EQ(frame, -12345);

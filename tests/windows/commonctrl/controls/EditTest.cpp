@@ -29,6 +29,22 @@ TEST_F(Controls, EditFrameAndFocus) {
     dialog.DestroyWindow();
 }
 
+TEST_F(Controls, CtrlASelectsAll) {
+    TestDialog dialog(IDD_GALLERY);
+    dialog.Open();
+    for (const int id : {IDC_EDIT, IDC_EDIT_READONLY}) {
+        const HWND edit = dialog.Item(id);
+        dialog.SetDlgItemText(id, L"all of it");
+        ::SendMessageW(edit, EM_SETSEL, 2, 3);
+        ::SendMessageW(edit, WM_CHAR, 1, 1); // what Ctrl+A makes
+        DWORD from = 9, to = 0;
+        ::SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+        EXPECT_EQ(0u, from) << id;
+        EXPECT_EQ(9u, to) << id;
+    }
+    dialog.DestroyWindow();
+}
+
 TEST_F(Controls, EditColoursOfEachState) {
     TestDialog dialog(IDD_GALLERY);
     dialog.Open();

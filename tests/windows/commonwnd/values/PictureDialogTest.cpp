@@ -136,6 +136,29 @@ TEST_F(PictureDialog, DigitsBeforeLettersAreRead) {
     EXPECT_EQ(CPoint(12, 0), m_dialog.m_ptPos);
 }
 
+TEST_F(PictureDialog, AFractionIsNotTypedIntoTheNumber) {
+    EXPECT_EQ(IDOK, Use(m_dialog, [&](Driver& user, HWND wnd) {
+                  user.replaceText(X(user, wnd), L"12.7");
+                  user.waitText(X(user, wnd), L"12");
+                  Paste(user, Y(user, wnd), L"3.9");
+                  user.onUi([&] { EXPECT_EQ(CPoint(12, 3), Tracked().TopLeft()); });
+                  user.click(wnd, IDOK);
+              }));
+    EXPECT_EQ(CPoint(12, 3), m_dialog.m_ptPos);
+}
+
+TEST_F(PictureDialog, FiguresBeyond32BitsAreBounded) {
+    for (const auto& [text, bounded] :
+         {std::pair{L"4294967295", INT_MAX}, {L"-4294967290", INT_MIN}, {L"2147483648", INT_MAX}}) {
+        EXPECT_EQ(IDOK, Use(m_dialog, [&](Driver& user, HWND wnd) {
+                      user.onUi([&] { ::SetWindowTextW(X(user, wnd), text); });
+                      user.onUi([&] { EXPECT_EQ(bounded, m_dialog.m_ptPos.x); });
+                      user.click(wnd, IDOK);
+                  }));
+        EXPECT_EQ(bounded, m_dialog.m_ptPos.x) << text;
+    }
+}
+
 TEST_F(PictureDialog, LockedTrackerIsNotDragged) {
     m_dialog.m_nTrackerMode = _qv_extractrl::QVTRACKER_LOCKED;
     EXPECT_EQ(IDOK, Use(m_dialog, [&](Driver& user, HWND wnd) {

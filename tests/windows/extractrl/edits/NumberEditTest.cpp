@@ -2,6 +2,8 @@
 
 #include <LeakGuard.h>
 #include <ModalScript.h>
+#include <Picture.h>
+#include <QVSkin.h>
 
 #include <gtest/gtest.h>
 
@@ -45,6 +47,12 @@ void setUpPercent(ProbeDialog& opened) {
     opened.number()->LimitText(5);
 }
 
+// Whether the edit's frame says that it has not taken what was typed or pasted.
+bool showsRefusal(HWND edit) {
+    return Picture::ofWindow(edit).at(5, 1) ==
+           _qv_commonctrl::QV_GetSysColor(_qv_commonctrl::QVCLR_METER_OVER);
+}
+
 void setUpCode(ProbeDialog& opened) {
     opened.number()->SetRange(0, 255);
     opened.number()->SetPos(16);
@@ -84,10 +92,43 @@ TEST_F(NumberEdit, RangeIsAppliedWhenTheValueIsFinished) {
 TEST_F(NumberEdit, FilterTakesNumbersOnly) {
     probe.onInit = setUpCode;
     drive([&](Driver& user, HWND, HWND edit) {
-        user.replaceText(edit, L"1a2-3.4e+x中5");
+        user.replaceText(edit, L"1a2-34e+x中5");
         EXPECT_EQ(user.text(edit), L"12345");
         user.type(L"6");
         EXPECT_EQ(user.text(edit), L"12345"); // limit of 5 characters
+    });
+}
+
+TEST_F(NumberEdit, AWholeNumberTakesNoFraction) {
+    probe.onInit = setUpCode;
+    drive([&](Driver& user, HWND, HWND edit) {
+        user.replaceText(edit, L"12.7");
+        EXPECT_EQ(user.text(edit), L"12");
+        EXPECT_TRUE(showsRefusal(edit));
+        user.type(L",5");
+        EXPECT_EQ(user.text(edit), L"12");
+        user.press(VK_END); // the caret is put where it stands: the user means it
+        EXPECT_FALSE(showsRefusal(edit));
+        user.type(L"7");
+        EXPECT_EQ(user.text(edit), L"127");
+        EXPECT_EQ(pos(user), 127);
+    });
+}
+
+TEST_F(NumberEdit, UndoTakesStepsBack) {
+    probe.onInit = setUpCode;
+    drive([&](Driver& user, HWND, HWND edit) {
+        user.click(edit);
+        user.press(VK_UP);
+        EXPECT_EQ(user.text(edit), L"17");
+        user.press('Z', Control);
+        EXPECT_EQ(user.text(edit), L"16");
+        EXPECT_EQ(pos(user), 16);
+        user.wheel(edit, {5, 5}, 3);
+        EXPECT_EQ(user.text(edit), L"19");
+        user.press('Z', Control);
+        EXPECT_EQ(user.text(edit), L"16");
+        EXPECT_EQ(pos(user), 16);
     });
 }
 
@@ -198,7 +239,10 @@ TEST_F(NumberEdit, PasteTakesANumberAndRefusesTheRest) {
             return user.text(edit);
         };
         EXPECT_EQ(pasteOver(L" 42 "), L"42");
+        EXPECT_FALSE(showsRefusal(edit));
         EXPECT_EQ(pasteOver(L"4x2"), L"42");
+        EXPECT_TRUE(showsRefusal(edit));
+        EXPECT_EQ(pasteOver(L"12.7"), L"42");
         EXPECT_EQ(pasteOver(L"-1"), L"42");
         EXPECT_EQ(pasteOver(L"１２"), L"12");
         EXPECT_EQ(pasteOver(std::wstring(20000, L'A')), L"12");

@@ -1,6 +1,8 @@
 #include "ProbeDialog.h"
 
 #include <ModalScript.h>
+#include <Picture.h>
+#include <QVSkin.h>
 
 #include <gtest/gtest.h>
 
@@ -242,6 +244,78 @@ TEST_F(TimeCodeEdit, RefusesWhatIsNoTimecode) {
         EXPECT_EQ(user.text(frames), L"50");
         user.onUi([&] { ::SetWindowTextW(label, L"1:0:0"); });
         EXPECT_EQ(user.text(label), L"00:01:00:00");
+    });
+}
+
+TEST_F(TimeCodeEdit, ANegativeCountIsEditedAndCopied) {
+    start = -10;
+    linkBoth();
+    drive([&](Driver& user, HWND, HWND label, HWND frames) {
+        user.click(frames);
+        user.press(VK_END);
+        user.type(L"5");
+        EXPECT_EQ(user.text(frames), L"-105");
+        EXPECT_EQ(user.text(label), L"-00:00:04:05");
+        user.press(VK_BACK);
+        leave(user);
+        EXPECT_EQ(user.text(frames), L"-10");
+        user.click(frames);
+        user.press('A', Control);
+        user.press('C', Control);
+        user.press('V', Control);
+        EXPECT_EQ(user.text(frames), L"-10");
+        EXPECT_EQ(frame(user), -10);
+    });
+}
+
+TEST_F(TimeCodeEdit, UndoGoesBackBeforeTheOtherFieldsEcho) {
+    linkBoth();
+    drive([&](Driver& user, HWND wnd, HWND label, HWND frames) {
+        const auto undoes = [&](const char* what) {
+            EXPECT_NE(user.text(frames), L"50") << what;
+            user.press('Z', Control);
+            EXPECT_EQ(user.text(label), L"00:00:02:00") << what;
+            EXPECT_EQ(user.text(frames), L"50") << what;
+        };
+        tabInto(user, wnd);
+        user.press(VK_UP);
+        undoes("a step");
+        user.wheel(label, {10, 5}, 2);
+        undoes("the wheel");
+        user.press('A', Control);
+        user.press(VK_DELETE);
+        undoes("Delete");
+        user.press('A', Control);
+        user.type(L"+10");
+        leave(user);
+        user.click(label);
+        undoes("a distance");
+        user.click(frames);
+        user.press(VK_DOWN);
+        undoes("a step of the count");
+    });
+}
+
+TEST_F(TimeCodeEdit, AnEmptiedCountIsTheFrameBefore) {
+    linkBoth();
+    drive([&](Driver& user, HWND, HWND label, HWND frames) {
+        user.replaceText(frames, L"75");
+        user.press(VK_BACK);
+        user.press(VK_BACK);
+        EXPECT_EQ(user.text(frames), L"");
+        EXPECT_EQ(user.text(label), L"00:00:02:00");
+        leave(user);
+        EXPECT_EQ(user.text(frames), L"50");
+    });
+}
+
+TEST_F(TimeCodeEdit, ACountTakesNoFraction) {
+    drive([&](Driver& user, HWND, HWND, HWND frames) {
+        user.replaceText(frames, L"12.7");
+        EXPECT_EQ(user.text(frames), L"12");
+        EXPECT_EQ(Picture::ofWindow(frames).at(5, 1),
+                  _qv_commonctrl::QV_GetSysColor(_qv_commonctrl::QVCLR_METER_OVER));
+        EXPECT_EQ(frame(user, false), 12);
     });
 }
 
