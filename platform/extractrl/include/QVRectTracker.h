@@ -6,9 +6,9 @@
 //   tracker.SetTrackRect(CPoint(100, 80), CRect(0, 0, 320, 240));
 //
 // The range is shown as large as the control allows, in its proportions. The user drags the rectangle, or
-// moves it by arrow keys: 1 unit, with Shift 10. Escape while dragging puts it back. Each step sends
-// QVN_TRACKERMOVE to the parent. All co-ordinates are units of the range, as the host counts them (usually
-// picture pixels).
+// moves it by arrow keys: 1 unit, with Shift 10. Escape while dragging puts it back, also out of the range.
+// Each step sends QVN_TRACKERMOVE to the parent. All co-ordinates are units of the range, as the host counts
+// them (usually picture pixels).
 #pragma once
 
 #include "QVExtraCtrlDef.h"
@@ -86,6 +86,7 @@ class QVEXTRACTRL_API CQVRectTracker : public CWnd, public _qv_commonctrl::CQVBa
     CRect HitRect() const;
     bool CanMove() const;
     void MoveByUser(LONGLONG nLeft, LONGLONG nTop);
+    void TakeRect(const CRect& rcMoved);
     void Redraw();
 
     CRect m_rcRange;

@@ -117,18 +117,23 @@ CRect CQVRectTracker::HitRect() const {
     return hit;
 }
 
-// One step of a move. The window may be gone afterwards.
+// One step of a move. No distance changes nothing, wherever the program has put the rectangle. The window may
+// be gone afterwards.
 void CQVRectTracker::MoveByUser(LONGLONG nLeft, LONGLONG nTop) {
     if (m_nTrackerMode == QVTRACKER_MOVE_HORZ)
         nTop = m_rcTrack.top;
     else if (m_nTrackerMode == QVTRACKER_MOVE_VERT)
         nLeft = m_rcTrack.left;
-    CRect moved = QV_MoveRectTo(m_rcTrack, nLeft, nTop);
-    if (m_nOption & QVTRACKER_KEEP_IN_RANGE)
-        moved = QV_KeepInRange(moved, m_rcRange);
-    if (moved == m_rcTrack)
+    if (nLeft == m_rcTrack.left && nTop == m_rcTrack.top)
         return;
-    m_rcTrack = moved;
+    const CRect moved = QV_MoveRectTo(m_rcTrack, nLeft, nTop);
+    TakeRect(m_nOption & QVTRACKER_KEEP_IN_RANGE ? QV_KeepInRange(moved, m_rcRange) : moved);
+}
+
+void CQVRectTracker::TakeRect(const CRect& rcMoved) {
+    if (rcMoved == m_rcTrack)
+        return;
+    m_rcTrack = rcMoved;
     Redraw();
     UpdateWindow(); // a drag must not outrun its picture
     const HWND parent = ::GetParent(m_hWnd);
@@ -171,7 +176,7 @@ void CQVRectTracker::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
         if (nChar == VK_ESCAPE) {
             const CRect before = m_rcDragStart;
             ::ReleaseCapture();
-            MoveByUser(before.left, before.top);
+            TakeRect(before);
         }
         return;
     }
@@ -204,6 +209,10 @@ void CQVRectTracker::OnLButtonDown(UINT, CPoint point) {
 void CQVRectTracker::OnMouseMove(UINT nFlags, CPoint point) {
     if (!m_bDragging) {
         CWnd::OnMouseMove(nFlags, point);
+        return;
+    }
+    if (point == m_ptDragStart) {
+        TakeRect(m_rcDragStart);
         return;
     }
     // From the drag's start, so that roundings do not add up and the range's edge does not lose the pointer.

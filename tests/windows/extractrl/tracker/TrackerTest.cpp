@@ -58,6 +58,10 @@ class RectTracker : public testing::Test {
 void nothingMore(ProbeDialog&) {
 }
 
+void sendMouse(HWND tracker, UINT message, LPARAM where) {
+    ::SendMessageW(tracker, message, MK_LBUTTON, where);
+}
+
 TEST_F(RectTracker, DragMovesAndTells) {
     drive(nothingMore, [&](Driver& user, HWND, HWND tracker) {
         const POINT from = pictureCentre(tracker, trackRect(user));
@@ -186,6 +190,51 @@ TEST_F(RectTracker, EscapeWhileDraggingPutsItBack) {
         EXPECT_TRUE(::IsWindowVisible(wnd)); // Escape did not reach the dialog
         EXPECT_EQ(trackRect(user).TopLeft(), CPoint(100, 80));
     });
+}
+
+TEST_F(RectTracker, EscapePutsItBackOutOfTheRange) {
+    drive(
+        [](ProbeDialog& opened) { opened.tracker()->SetTrackRect(CPoint(-100, -50), CRect(0, 0, 320, 240)); },
+        [&](Driver& user, HWND, HWND tracker) {
+            const POINT from = pictureCentre(tracker, trackRect(user));
+            POINT screen = from;
+            ::ClientToScreen(tracker, &screen);
+            moveMouse(screen);
+            user.settle();
+            mouseDown();
+            user.settle();
+            EXPECT_TRUE(probe.moves.empty());
+            moveMouse({screen.x + 30, screen.y + 20});
+            user.settle();
+            EXPECT_FALSE(probe.moves.empty());
+            user.escape();
+            EXPECT_EQ(trackRect(user).TopLeft(), CPoint(-100, -50));
+            EXPECT_EQ(probe.moves.back().TopLeft(), CPoint(-100, -50));
+            mouseUp();
+            user.settle();
+            EXPECT_EQ(trackRect(user).TopLeft(), CPoint(-100, -50));
+        });
+}
+
+TEST_F(RectTracker, NoDistanceMovesNothing) {
+    drive(
+        [](ProbeDialog& opened) {
+            opened.tracker()->SetTrackRect(CPoint(-100, 80), CRect(0, 0, 320, 240));
+            opened.tracker()->m_nTrackerMode = QVTRACKER_MOVE_VERT;
+        },
+        [&](Driver& user, HWND, HWND tracker) {
+            user.clickAt(tracker, pictureCentre(tracker, trackRect(user)));
+            user.press(VK_RIGHT); // not a direction of this mode
+            user.onUi([&] {
+                const POINT at = pictureCentre(tracker, probe.tracker()->GetTrackRect());
+                const LPARAM where = MAKELPARAM(at.x, at.y);
+                sendMouse(tracker, WM_LBUTTONDOWN, where);
+                sendMouse(tracker, WM_MOUSEMOVE, where);
+                sendMouse(tracker, WM_LBUTTONUP, where);
+            });
+            EXPECT_EQ(trackRect(user).TopLeft(), CPoint(-100, 80));
+            EXPECT_TRUE(probe.moves.empty());
+        });
 }
 
 TEST_F(RectTracker, ShowsThePicture) {
