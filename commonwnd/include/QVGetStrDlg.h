@@ -25,7 +25,9 @@ class QVCOMMONWND_API CQVGetStrDlg : public _qv_commonctrl::CQVDialog {
     // IDOK, and m_strText is the answer; IDCANCEL; -1 when the dialog could not be made. m_strText is what
     // was typed also after a refused OK and IDCANCEL: take it only on IDOK.
     INT_PTR DoModal() override;
-    // The same in a resizable layout without prompt, at the template's size.
+    // The same at the template's size, for a subclass that sizes the window itself. The window has no sizing
+    // border and opens with the template's places, prompt included. From its first change of size on there is
+    // no prompt, the field fills the client area, and each change moves the buttons 13 pixels further down.
     INT_PTR DoModalWindow();
 
     int m_nMaxLen = 260;         // most characters that can be typed

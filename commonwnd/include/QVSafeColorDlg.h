@@ -29,8 +29,6 @@ class QVCOMMONWND_API CQVSafeColorDlg : public _qv_commonctrl::CQVDialog {
     // none.
     void SetOPALMainWnd(CWnd* pWnd);
 
-    tag_QVSafeColor m_SafeColor; // filled before DoModal, read after IDOK
-
     BOOL OnInitDialog() override;
     void OnSkinChange(UINT reason, HWND wnd) override;
     afx_msg void OnDestroy();
@@ -69,6 +67,11 @@ class QVCOMMONWND_API CQVSafeColorDlg : public _qv_commonctrl::CQVDialog {
     CWnd* m_pLimit = nullptr;
     _qv_commonctrl::CQVButton* m_pLumRefresh = nullptr;
     _qv_commonctrl::CQVButton* m_pChromaRefresh = nullptr;
+
+  public:
+    tag_QVSafeColor m_SafeColor; // filled before DoModal, read after IDOK
+
+  private:
     tag_QVSafeColor m_SafeColorOrg; // as it was when the dialog opened
     CWnd* m_pOPALMainWnd = nullptr; // borrowed
     double m_dLumLowPercent = 0.0;

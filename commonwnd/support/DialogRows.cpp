@@ -95,15 +95,6 @@ void AlignRow(CWnd& dialog, int reference, std::initializer_list<int> ids) {
     }
 }
 
-void CentreOver(CWnd& dialog, int reference, int id) {
-    CWnd* const wnd = dialog.GetDlgItem(id);
-    const CRect column = ChildRect(dialog, reference);
-    if (!wnd || column.IsRectEmpty())
-        return;
-    const CRect rect = RectIn(dialog, *wnd);
-    MoveTo(*wnd, CPoint(column.left + (column.Width() - rect.Width()) / 2, rect.top));
-}
-
 void AlignLabelsWithFields(CWnd& dialog) {
     const std::vector<Item> items = VisibleChildren(dialog);
     for (const Item& label : items) {

@@ -13,9 +13,6 @@ namespace _qv_commonwnd {
 // the reference.
 void AlignRow(CWnd& dialog, int reference, std::initializer_list<int> ids);
 
-// Moves a control sideways, its middle over the reference's.
-void CentreOver(CWnd& dialog, int reference, int id);
-
 // Aligns each visible label with the field on its right that shares its row.
 void AlignLabelsWithFields(CWnd& dialog);
 

@@ -37,6 +37,10 @@ int RoundCode(double code) {
 }
 
 void TakeLuminance(double position, bool inPercent, double& code, double& percent) {
+    if (inPercent && position == CodeToPercent(code)) {
+        percent = position;
+        return;
+    }
     code = inPercent ? PercentToCode(position) : position;
     percent = inPercent ? position : CodeToPercent(position);
 }

@@ -20,6 +20,8 @@ double CodeToPercent(double code);
 int RoundCode(double code);
 
 // Takes the position of a limit's field, which counts in percent or in codes, into both figures of the limit.
+// A percentage that shows the code as it is leaves the code alone: the way there and back would change its
+// last bits.
 void TakeLuminance(double position, bool inPercent, double& code, double& percent);
 
 } // namespace _qv_commonwnd

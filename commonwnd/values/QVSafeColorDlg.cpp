@@ -86,7 +86,6 @@ BOOL CQVSafeColorDlg::OnInitDialog() {
     FillUnits(*m_pLumUnit, m_SafeColor.nLumUnit);
     FillUnits(*m_pChromaUnit, m_SafeColor.nChromaUnit);
     m_pChromaUnit->EnableWindow(FALSE);
-    StraightenSafeColor(*this);
     SetEditValue();
     int action = 0;
     for (CWnd* radio : {m_pLimit, m_pWarning, m_pIgnore})

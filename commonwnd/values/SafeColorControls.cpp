@@ -1,7 +1,6 @@
 #include "SafeColorControls.h"
 
 #include "res/ResourceIds.h"
-#include "support/DialogRows.h"
 #include "support/WindowText.h"
 
 #include <LWSupportAPI.h>
@@ -65,18 +64,6 @@ void FillUnits(CWnd& combo, int selection) {
     for (const wchar_t* unit : kUnits)
         combo.SendMessage(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(unit));
     combo.SendMessage(CB_SETCURSEL, static_cast<WPARAM>(selection));
-}
-
-void StraightenSafeColor(CWnd& dialog) {
-    AlignRow(dialog, IDC_SAFECOLOR_LUMLOW,
-             {IDC_SAFECOLOR_LUMINANCE, IDC_SAFECOLOR_LUM_REFRESH, IDC_SAFECOLOR_LUM_UNIT});
-    AlignRow(dialog, IDC_SAFECOLOR_CHROMAHIGH,
-             {IDC_SAFECOLOR_CHROMINANCE, IDC_SAFECOLOR_CHROMA_REFRESH, IDC_SAFECOLOR_CHROMA_UNIT});
-    AlignRow(dialog, IDC_SAFECOLOR_HIGH, {IDC_SAFECOLOR_LOW, IDC_SAFECOLOR_UNIT});
-    CentreOver(dialog, IDC_SAFECOLOR_LUMLOW, IDC_SAFECOLOR_LOW);
-    CentreOver(dialog, IDC_SAFECOLOR_LUMHIGH, IDC_SAFECOLOR_HIGH);
-    CentreOver(dialog, IDC_SAFECOLOR_LUM_UNIT, IDC_SAFECOLOR_UNIT);
-    CentreOver(dialog, IDC_SAFECOLOR_LUM_UNIT, IDC_SAFECOLOR_CHROMA_UNIT);
 }
 
 } // namespace _qv_commonwnd

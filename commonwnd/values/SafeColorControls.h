@@ -1,4 +1,4 @@
-// Setting up the controls of the safe-colour dialog: their texts, places, edits and choices.
+// Setting up the controls of the safe-colour dialog: their texts, edits and choices.
 #pragma once
 
 #include <QVExtraCtrl.h>
@@ -17,8 +17,5 @@ void DestroyNumberEdit(_qv_extractrl::CQVNumberEditEx*& edit);
 
 // Fills a unit combo with the names of the units (QVSafeColorUnit is the index) and selects one.
 void FillUnits(CWnd& combo, int selection);
-
-// Rows and columns of the grid: the headings stand over their fields.
-void StraightenSafeColor(CWnd& dialog);
 
 } // namespace _qv_commonwnd

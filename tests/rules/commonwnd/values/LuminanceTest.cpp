@@ -166,3 +166,29 @@ TEST(IntegerText, LeadingDigits) {
     for (const auto& c : cases)
         EXPECT_EQ(c.value, LeadingInteger(c.text));
 }
+
+TEST(Luminance, AShownPercentageLeavesItsCodeAlone) {
+    for (int whole = 0; whole <= 255; ++whole) {
+        double code = whole;
+        double percent = CodeToPercent(code);
+        TakeLuminance(percent, true, code, percent);
+        EXPECT_EQ(whole, code);
+        EXPECT_EQ(CodeToPercent(whole), percent);
+    }
+    double code = 16.0;
+    double percent = 0.0;
+    TakeLuminance(50.0, true, code, percent);
+    EXPECT_EQ(125.5, code);
+    EXPECT_EQ(50.0, percent);
+    TakeLuminance(235.0, false, code, percent);
+    EXPECT_EQ(235.0, code);
+    EXPECT_EQ(100.0, percent);
+}
+
+TEST(IntegerText, ThirtyTwoBitsAreABound) {
+    EXPECT_EQ(12, LeadingInt32(L"12px"));
+    EXPECT_EQ(INT_MAX, LeadingInt32(L"2147483648"));
+    EXPECT_EQ(INT_MAX, LeadingInt32(L"4294967295"));
+    EXPECT_EQ(INT_MIN, LeadingInt32(L"-99999999999999999999"));
+    EXPECT_EQ(0, LeadingInt32(nullptr));
+}

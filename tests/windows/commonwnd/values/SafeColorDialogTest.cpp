@@ -99,6 +99,75 @@ TEST_F(SafeColorDialog, PercentOfTheDefaultAndBack) {
     EXPECT_EQ(1, dialog.m_SafeColor.nLumUnit);
 }
 
+// Opens, goes to percent and back, and is as it was: codes at the ends, and some whose way there and back by
+// calculation ends a last bit beside them.
+TEST_F(SafeColorDialog, ThereAndBackIsNoChange) {
+    for (const int low : {0, 7, 16, 52, 76, 88, 97}) {
+        CQVSafeColorDlg dialog;
+        dialog.m_SafeColor.dLumLow = low;
+        dialog.m_SafeColor.dLumHigh = 255 - low;
+        EXPECT_EQ(IDCANCEL, RunOnce(dialog, [&] {
+                      const HWND combo = ::GetDlgItem(dialog, IDC_SAFECOLOR_LUM_UNIT);
+                      for (const int unit : {QVSAFECOLOR_PERCENT, QVSAFECOLOR_8BIT}) {
+                          ::SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(unit), 0);
+                          dialog.OnLumTypeClicked();
+                      }
+                      EXPECT_FALSE(OkEnabled(dialog)) << low;
+                      ::SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+                  }));
+        EXPECT_EQ(low, dialog.m_SafeColor.dLumLow);
+        EXPECT_EQ(255 - low, dialog.m_SafeColor.dLumHigh);
+    }
+}
+
+TEST_F(SafeColorDialog, ControlsStandInTheTemplatesPlaces) {
+    const struct {
+        int id;
+        CRect place; // dialog units; x, y, width, height
+    } rows[] = {
+        {IDOK, {165, 141, 50, 14}},
+        {IDCANCEL, {223, 141, 50, 14}},
+        {IDC_SAFECOLOR_GROUP, {7, 7, 266, 127}},
+        {IDC_SAFECOLOR_LOW, {73, 17, 46, 14}},
+        {IDC_SAFECOLOR_HIGH, {139, 18, 46, 14}},
+        {IDC_SAFECOLOR_UNIT, {217, 18, 46, 14}},
+        {IDC_SAFECOLOR_LUMINANCE, {24, 47, 44, 12}},
+        {IDC_SAFECOLOR_CHROMINANCE, {24, 73, 44, 12}},
+        {IDC_SAFECOLOR_ACTION, {24, 99, 44, 12}},
+        {IDC_SAFECOLOR_LIMIT, {44, 112, 61, 17}},
+        {IDC_SAFECOLOR_WARNING, {120, 112, 61, 17}},
+        {IDC_SAFECOLOR_IGNORE, {196, 112, 61, 17}},
+        {IDC_SAFECOLOR_LUMLOW, {71, 45, 38, 12}},
+        {IDC_SAFECOLOR_LUMHIGH, {135, 45, 38, 12}},
+        {IDC_SAFECOLOR_CHROMAHIGH, {135, 73, 38, 12}},
+        {IDC_SAFECOLOR_LUM_REFRESH, {184, 46, 17, 11}},
+        {IDC_SAFECOLOR_CHROMA_REFRESH, {184, 74, 17, 11}},
+    };
+    CQVSafeColorDlg dialog;
+    EXPECT_EQ(IDCANCEL, RunOnce(dialog, [&] {
+                  for (const auto& row : rows) {
+                      CRect expected(CPoint(row.place.left, row.place.top),
+                                     CSize(row.place.right, row.place.bottom));
+                      ::MapDialogRect(dialog, &expected);
+                      CRect stands;
+                      dialog.GetDlgItem(row.id)->GetWindowRect(&stands);
+                      dialog.ScreenToClient(&stands);
+                      EXPECT_EQ(expected, stands) << row.id;
+                  }
+                  for (const auto& [id, corner] : {std::pair{IDC_SAFECOLOR_LUM_UNIT, CPoint(212, 45)},
+                                                   {IDC_SAFECOLOR_CHROMA_UNIT, CPoint(213, 74)}}) {
+                      CRect expected(corner, CSize(52, 0)); // the list's height is the combo's own
+                      ::MapDialogRect(dialog, &expected);
+                      CRect stands;
+                      dialog.GetDlgItem(id)->GetWindowRect(&stands);
+                      dialog.ScreenToClient(&stands);
+                      EXPECT_EQ(expected.TopLeft(), stands.TopLeft()) << id;
+                      EXPECT_EQ(expected.Width(), stands.Width()) << id;
+                  }
+                  ::SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+              }));
+}
+
 TEST_F(SafeColorDialog, PercentIsCutAtTheEndsOfTheCodes) {
     CQVSafeColorDlg dialog;
     dialog.m_SafeColor.dLumLow = 0.0;
