@@ -5,6 +5,8 @@
 #include <QVDBScale.h>
 #include <QVSkin.h>
 
+#include <cmath>
+
 namespace _qv_commonwnd {
 
 namespace {
@@ -80,7 +82,7 @@ CRect VUScale(const VUGroup& group, int clientHeight, UINT dpi) {
 
 int VUMarkY(int markDb, int top, int bottom) {
     const double fromTop = 100.0 - _qv_extractrl::QVX_DBToPos(markDb);
-    return static_cast<int>(fromTop * (bottom - top) / 100.0) + top;
+    return static_cast<int>(std::lround(fromTop * (bottom - top) / 100.0)) + top;
 }
 
 } // namespace _qv_commonwnd

@@ -44,7 +44,8 @@ int VUFoot(int clientHeight, UINT dpi);
 // The dB scale of a group in a client area of this height.
 CRect VUScale(const VUGroup& group, int clientHeight, UINT dpi);
 
-// How high, in client pixels, the tick of a mark stands on a scale that fills `top` to `bottom`.
+// The row, in client pixels, of a mark's tick on a scale that fills `top` to `bottom`: the nearest one, since
+// a fraction cut off would bring the figures of two marks together in the lowest window.
 int VUMarkY(int markDb, int top, int bottom);
 
 } // namespace _qv_commonwnd

@@ -1,6 +1,9 @@
 // Every text and line of the meter frame: its words, font, colour and place.
 #include "VUFrameFixture.h"
 
+#include <algorithm>
+#include <cmath>
+
 using namespace vuframe_test;
 
 namespace {
@@ -43,7 +46,8 @@ class VUFrameLabel : public VUFrame {
 
     static int MarkY(const Picture& shot, int db) {
         const int length = shot.height() - kFoot - kScaleTop;
-        return static_cast<int>((100.0 - _qv_extractrl::QVX_DBToPos(db)) * length / 100.0) + kScaleTop;
+        return kScaleTop +
+               static_cast<int>(std::lround((100.0 - _qv_extractrl::QVX_DBToPos(db)) * length / 100.0));
     }
 
     // Rows of the scale's figures in which anything is drawn.
@@ -161,10 +165,15 @@ TEST_F(VUFrameLabel, AllNineMarksAreLabelledAtEveryHeight) {
             EXPECT_TRUE(shot.save(qvtest::picturePath(L"meter-frame-lowest")));
         }
         const std::vector<bool> rows = FigureRows(shot, QV_GetSysColor(QVCLR_PANEL_RAISED));
+        const auto last =
+            static_cast<size_t>(MarkY(shot, -120) - 6); // above the minus and the sign of infinity
         int figures = 0;
-        for (size_t y = kScaleTop - 8; y < rows.size(); ++y)
+        for (size_t y = kScaleTop - 8; y < last; ++y)
             figures += rows[y] && !rows[y - 1];
-        EXPECT_EQ(9, figures) << height;
+        EXPECT_EQ(8, figures) << height;
+        EXPECT_FALSE(rows[last]) << height;
+        EXPECT_NE(rows.end(), std::find(rows.begin() + static_cast<ptrdiff_t>(last), rows.end(), true))
+            << height;
     }
 }
 

@@ -1,5 +1,7 @@
 #include "VUFrameFixture.h"
 
+#include <cmath>
+
 using namespace vuframe_test;
 
 namespace {
@@ -93,7 +95,7 @@ TEST_F(VUFramePaint, EachChannelAndTheScaleAreLabelled) {
         EXPECT_TRUE(AnythingDrawn(shot, {43 + 22 * i, 42, 58 + 22 * i, 62})) << i;
     const int foot = shot.height() - 20;
     const auto tickAt = [&](double percent) { // of the scale, in the column of the ticks
-        const int y = static_cast<int>((100.0 - percent) * (foot - 86) / 100.0) + 86;
+        const int y = 86 + static_cast<int>(std::lround((100.0 - percent) * (foot - 86) / 100.0));
         return shot.at(35, y) != m_raised;
     };
     for (const int db : {0, -3, -6, -12, -20, -30, -40, -60, -120})

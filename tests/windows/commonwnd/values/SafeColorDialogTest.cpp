@@ -2,6 +2,9 @@
 
 #include "values/LuminanceUnits.h"
 
+#include <Picture.h>
+#include <QVSkin.h>
+
 #include <cmath>
 #include <limits>
 
@@ -120,6 +123,20 @@ TEST_F(SafeColorDialog, ThereAndBackIsNoChange) {
     }
 }
 
+TEST_F(SafeColorDialog, AFractionOfACodeIsRefusedVisibly) {
+    CQVSafeColorDlg dialog;
+    EXPECT_EQ(IDCANCEL, Use(dialog, [&](Driver& user, HWND wnd) {
+                  const HWND low = Low(user, wnd);
+                  const auto frame = [low] { return qvtest::Picture::ofWindow(low).at(5, 1); };
+                  user.replaceText(low, L"12.7");
+                  EXPECT_EQ(L"12", textOf(low));
+                  EXPECT_EQ(_qv_commonctrl::QV_GetSysColor(_qv_commonctrl::QVCLR_METER_OVER), frame());
+                  user.press(VK_END);
+                  EXPECT_EQ(_qv_commonctrl::QV_GetSysColor(_qv_commonctrl::QVCLR_ACCENT), frame());
+                  user.escape();
+              }));
+}
+
 TEST_F(SafeColorDialog, ControlsStandInTheTemplatesPlaces) {
     const struct {
         int id;
@@ -146,13 +163,15 @@ TEST_F(SafeColorDialog, ControlsStandInTheTemplatesPlaces) {
     CQVSafeColorDlg dialog;
     EXPECT_EQ(IDCANCEL, RunOnce(dialog, [&] {
                   for (const auto& row : rows) {
-                      CRect expected(CPoint(row.place.left, row.place.top),
-                                     CSize(row.place.right, row.place.bottom));
-                      ::MapDialogRect(dialog, &expected);
+                      CRect corner(row.place.left, row.place.top, 0, 0);
+                      CRect size(0, 0, row.place.right, row.place.bottom);
+                      ::MapDialogRect(dialog, &corner);
+                      ::MapDialogRect(dialog, &size);
                       CRect stands;
                       dialog.GetDlgItem(row.id)->GetWindowRect(&stands);
                       dialog.ScreenToClient(&stands);
-                      EXPECT_EQ(expected, stands) << row.id;
+                      EXPECT_EQ(corner.TopLeft(), stands.TopLeft()) << row.id;
+                      EXPECT_EQ(size.Size(), stands.Size()) << row.id;
                   }
                   for (const auto& [id, corner] : {std::pair{IDC_SAFECOLOR_LUM_UNIT, CPoint(212, 45)},
                                                    {IDC_SAFECOLOR_CHROMA_UNIT, CPoint(213, 74)}}) {
