@@ -37,7 +37,8 @@ int RoundCode(double code) {
 }
 
 void TakeLuminance(double position, bool inPercent, double& code, double& percent) {
-    if (inPercent && position == CodeToPercent(code)) {
+    const bool isCode = code >= kLowestCode && code <= kHighestCode;
+    if (inPercent && isCode && position == CodeToPercent(code)) {
         percent = position;
         return;
     }

@@ -179,6 +179,10 @@ TEST(Luminance, AShownPercentageLeavesItsCodeAlone) {
     double percent = 0.0;
     TakeLuminance(50.0, true, code, percent);
     EXPECT_EQ(125.5, code);
+    code = -500.0; // no code: what is shown for it is taken
+    TakeLuminance(kLowestPercent, true, code, percent);
+    EXPECT_EQ(PercentToCode(kLowestPercent), code);
+    TakeLuminance(50.0, true, code, percent);
     EXPECT_EQ(50.0, percent);
     TakeLuminance(235.0, false, code, percent);
     EXPECT_EQ(235.0, code);
