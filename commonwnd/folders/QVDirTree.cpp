@@ -9,9 +9,11 @@ using namespace _qv_commonctrl;
 namespace _qv_commonwnd {
 
 CWnd* QV_GetDirTree(CWnd* pParent, CRect rect) {
-    // The selected folder stays marked while the user works elsewhere in the host's window.
-    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_BORDER | TVS_HASBUTTONS | TVS_HASLINES |
-                             TVS_LINESATROOT | TVS_SHOWSELALWAYS;
+    // The selected folder stays marked while the user works elsewhere in the host's window; the desktop, the only root,
+    // is open from the start and needs no expander.
+    constexpr DWORD kStyle =
+        WS_CHILD | WS_VISIBLE | WS_BORDER | TVS_HASBUTTONS | TVS_HASLINES | TVS_SHOWSELALWAYS;
+    static_assert(kStyle == 0x50800023);
     constexpr UINT kControlId = 0;
     constexpr int kFoldersOnly = 1;
     auto* tree = new CQVComboDTBox;

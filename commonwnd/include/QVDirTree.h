@@ -31,8 +31,8 @@ QVCOMMONWND_API void QV_ReleaseDirTree(CWnd* pTree);
 // will do, but "ResPath", "MediaPath" and "FilePath" are the library's own.
 // `bSave` non-zero: stores the selected path; an empty one when nothing or a virtual folder is selected. An
 // empty key stores nothing. Zero: selects the stored folder; the tree stays as it is when the key is empty,
-// nothing is stored there, or the folder is not there or does not answer within 2 seconds. Null tree: nothing
-// happens.
+// nothing is stored there, or the folder is not there or does not answer within 2 seconds (after 2 seconds that slow
+// parents may take). Null tree: nothing happens.
 QVCOMMONWND_API void QV_InitFilePath(_qv_commonctrl::CQVDirTreeCtrl* pTree, CString strKey, int bSave);
 
 } // namespace _qv_commonwnd

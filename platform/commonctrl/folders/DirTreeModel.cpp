@@ -41,7 +41,7 @@ bool DirTreeModel::SetDesktop() {
 }
 
 bool DirTreeModel::Select(const std::wstring& path) {
-    const HTREEITEM item = PathFinder(*this).Find(path);
+    const HTREEITEM item = PathFinder(*this, path).Find();
     if (item)
         m_items.Select(item);
     return item != nullptr;
@@ -50,7 +50,9 @@ bool DirTreeModel::Select(const std::wstring& path) {
 void DirTreeModel::ListAgain(HTREEITEM item) {
     if (!item || m_items.KindOf(item) == FolderKind::File)
         return;
-    const bool expanded = m_items.IsExpanded(item);
+    const auto running = ListingOf(item);
+    const bool opening = running != m_listings.end() && running->second.expand;
+    const bool expanded = opening || m_items.IsExpanded(item);
     const RedrawPause pause(m_items.Window());
     m_items.Expand(item, TVE_COLLAPSE | TVE_COLLAPSERESET);
     Forget(item);
@@ -87,9 +89,11 @@ bool DirTreeModel::StartListing(HTREEITEM item, AfterListing after) {
 bool DirTreeModel::OnExpanding(HTREEITEM item) {
     if (m_listed.contains(item) || m_items.KindOf(item) == FolderKind::File)
         return false;
-    if (const auto running = ListingOf(item); running != m_listings.end() && running->second.HasBegun())
-        return false; // what there is so far can be shown
-    return StartListing(item, AfterListing::Expand);
+    // What there is can be shown: the first rows of a large folder, rows of a listing that broke off, or a folder that a
+    // call has put there although its parent cannot be listed.
+    const bool some = m_items.FirstChild(item) != nullptr;
+    const bool started = StartListing(item, some ? AfterListing::Nothing : AfterListing::Expand);
+    return started && !some;
 }
 
 void DirTreeModel::OnListed(UINT id) {
@@ -103,13 +107,14 @@ void DirTreeModel::OnListed(UINT id) {
     listing.InsertTaken(m_items);
     const bool some = m_items.FirstChild(item) != nullptr;
     // A listing that failed leaves the expander as it is: the folder may answer the next time.
-    const bool failed = ended && !listing.Succeeded();
+    const FolderResult result = ended ? listing.Result() : FolderResult();
+    const bool failed = ended && !result.Succeeded();
     const bool expand =
         some && !failed && std::exchange(listing.expand, false); // from then on it is the user's
     if (ended)
         m_listings.erase(found);
     if (ended && !failed) {
-        m_listed.insert(item);
+        m_listed[item] = result;
         m_items.SetHasChildren(item, some);
     }
     if (expand)
@@ -127,6 +132,17 @@ bool DirTreeModel::EnsureListed(HTREEITEM item, ULONGLONG deadline) {
         return false;
     OnListed(UINT(running->first)); // a copy: the entry goes
     return m_listed.contains(item);
+}
+
+void DirTreeModel::OnChildAdded(HTREEITEM parent, HTREEITEM child) {
+    m_items.SetHasChildren(parent, true);
+    if (const auto running = ListingOf(parent); running != m_listings.end())
+        running->second.OnChildAdded(m_items, child);
+}
+
+bool DirTreeModel::IsListedByHost(HTREEITEM item) const {
+    const auto listed = m_listed.find(item);
+    return listed != m_listed.end() && listed->second.byHost;
 }
 
 void DirTreeModel::Forget(HTREEITEM item) {

@@ -4,7 +4,7 @@
 #include "ItemListing.h"
 
 #include <map>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace _qv_commonctrl {
 
@@ -18,7 +18,7 @@ class DirTreeModel {
     void SetContent(FolderContent content) { m_content = content; }
     // Empties the tree and roots it at the desktop.
     bool SetDesktop();
-    // Goes to a path: see PathFinder.
+    // Goes to a path: see PathFinder. FALSE, and nothing changes, when it is not there.
     bool Select(const std::wstring& path);
     // Lists an item's folder anew; a listing under way ends without effect.
     void ListAgain(HTREEITEM item);
@@ -26,6 +26,11 @@ class DirTreeModel {
     // Waits for an item's folder to be listed. FALSE when that fails or takes longer.
     bool EnsureListed(HTREEITEM item, ULONGLONG deadline);
 
+    // Whether a folder's children are the host's, which need not be on a drive.
+    bool IsListedByHost(HTREEITEM item) const;
+
+    // A call has put a child into the tree.
+    void OnChildAdded(HTREEITEM parent, HTREEITEM child);
     // The user (or a caller) expands an item. TRUE: not yet, its folder is being listed first.
     bool OnExpanding(HTREEITEM item);
     void OnExpanded(HTREEITEM item, bool expanded) { m_items.ShowOpen(item, expanded); }
@@ -45,7 +50,7 @@ class DirTreeModel {
 
     DirTreeItems m_items;
     FolderContent m_content = FolderContent::FoldersOnly;
-    std::unordered_set<HTREEITEM> m_listed;
+    std::unordered_map<HTREEITEM, FolderResult> m_listed;
     Listings m_listings;
     UINT m_lastId = 0;
 };

@@ -26,61 +26,72 @@ FolderEntry EntryOf(const WIN32_FIND_DATAW& data) {
     return entry;
 }
 
-bool ListPath(const std::wstring& folder, FolderContent content, const FolderSink& sink) {
-    bool answered = false;
-    const bool listed = AskFolderLister(folder, content, sink, answered);
-    if (answered)
-        return listed;
+FolderOutcome OutcomeOf(DWORD error) {
+    switch (error) {
+    case ERROR_NO_MORE_FILES:
+    case ERROR_FILE_NOT_FOUND: // the root of an empty drive holds not even dots
+        return FolderOutcome::Listed;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_NETWORK_ACCESS_DENIED:
+    case ERROR_LOGON_FAILURE:
+        return FolderOutcome::Denied;
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_DIRECTORY:
+    case ERROR_BAD_NET_NAME:
+        return FolderOutcome::Gone;
+    default:
+        return FolderOutcome::NoAnswer;
+    }
+}
+
+FolderOutcome ListPath(const std::wstring& folder, FolderContent content, const FolderSink& sink) {
     WIN32_FIND_DATAW data = {};
     const auto search =
-        Valid<FindHandle>(FindFirstFileExW(SearchPattern(folder).c_str(), FindExInfoBasic, &data,
+        Valid<FindHandle>(FindFirstFileExW(LongPath(JoinPath(folder, L"*")).c_str(), FindExInfoBasic, &data,
                                            FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
     if (!search)
-        return GetLastError() == ERROR_FILE_NOT_FOUND; // the root of an empty drive holds not even dots
+        return OutcomeOf(GetLastError());
     do {
         const bool folderEntry = data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
         if (IsDotName(data.cFileName) || (data.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) ||
             (!folderEntry && content == FolderContent::FoldersOnly))
             continue;
-        sink(EntryOf(data));
+        if (!sink(EntryOf(data)))
+            return FolderOutcome::NoAnswer;
     } while (FindNextFileW(search.get(), &data));
-    return GetLastError() == ERROR_NO_MORE_FILES;
+    return OutcomeOf(GetLastError());
 }
 
 // Entries of the upper name space, which come all at once.
-void GiveAll(std::vector<FolderEntry>& entries, const FolderSink& sink) {
+FolderResult GiveAll(bool listed, std::vector<FolderEntry>& entries, const FolderSink& sink) {
     for (FolderEntry& entry : entries)
         sink(std::move(entry));
+    return {listed ? FolderOutcome::Listed : FolderOutcome::NoAnswer};
 }
 
 } // namespace
 
-bool ListFolder(const FolderRequest& request, const FolderSink& sink) {
+FolderResult ListFolder(const FolderRequest& request, const FolderSink& sink) {
     const FolderSink byName = [&sink](FolderEntry&& entry) {
         entry.sortKey = FolderSortKey(entry);
-        sink(std::move(entry));
+        return sink(std::move(entry));
     };
     std::vector<FolderEntry> entries;
-    bool listed = false;
     switch (request.kind) {
-    case FolderKind::Desktop:
-        listed = ListDesktop(request.content, entries); // the shell's own order: computer before documents
-        GiveAll(entries, sink);
-        return listed;
+    case FolderKind::Desktop: // the shell's own order: computer before documents
+        return GiveAll(ListDesktop(request.content, entries), entries, sink);
     case FolderKind::Computer:
-        listed = ListDrives(entries);
-        GiveAll(entries, sink);
-        return listed;
+        return GiveAll(ListDrives(entries), entries, sink);
     case FolderKind::Virtual:
-        listed = ListShellFolder(request.pidl.get(), request.content, entries);
-        GiveAll(entries, byName);
-        return listed;
-    case FolderKind::Path:
-        return ListPath(request.path, request.content, byName);
+        return GiveAll(ListShellFolder(request.pidl.get(), request.content, entries), entries, byName);
+    case FolderKind::Path: {
+        const FolderResult host = AskFolderLister(request.path, request.content, byName);
+        return host.byHost ? host : FolderResult{ListPath(request.path, request.content, byName)};
+    }
     case FolderKind::File:
         break;
     }
-    return false;
+    return {};
 }
 
 } // namespace _qv_commonctrl

@@ -45,11 +45,25 @@ struct FolderRequest {
     FolderContent content = FolderContent::FoldersOnly;
 };
 
-// Takes one entry after the other, while the folder is being read.
-using FolderSink = std::function<void(FolderEntry&& entry)>;
+enum class FolderOutcome {
+    Listed,   // to its end
+    Denied,   // the user may not see what is in it
+    Gone,     // there is no such folder any more
+    NoAnswer, // the drive or the server did not answer, or broke off
+};
 
-// Gives the entries of a folder to the sink in the order in which the system reads them, each with its sort
-// key. Hidden entries are left out. FALSE when the folder cannot be listed, or not to its end.
-bool ListFolder(const FolderRequest& request, const FolderSink& sink);
+struct FolderResult {
+    FolderOutcome outcome = FolderOutcome::NoAnswer;
+    bool byHost = false; // the host's own lister has answered: what is in it need not be on a drive
+
+    bool Succeeded() const { return outcome == FolderOutcome::Listed; }
+};
+
+// Takes one entry after the other, while the folder is being read. FALSE: nobody waits for more.
+using FolderSink = std::function<bool(FolderEntry&& entry)>;
+
+// Gives the entries of a folder to the sink in the order in which the system reads them, each with its sort key. Hidden
+// entries are left out.
+FolderResult ListFolder(const FolderRequest& request, const FolderSink& sink);
 
 } // namespace _qv_commonctrl

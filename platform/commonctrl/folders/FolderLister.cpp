@@ -17,30 +17,44 @@ struct Asked {
     bool complete = true; // memory did not run out on the way
 };
 
-void CALLBACK AddEntry(void* context, LPCWSTR name, BOOL isFolder) {
+BOOL CALLBACK AddEntry(void* context, LPCWSTR name, BOOL isFolder) {
     auto* const asked = static_cast<Asked*>(context);
     if (!name || !*name || (!isFolder && asked->content == FolderContent::FoldersOnly))
-        return;
+        return TRUE;
     try {
         FolderEntry entry;
         entry.name = name;
         entry.kind = isFolder ? FolderKind::Path : FolderKind::File;
         entry.icon = isFolder ? FolderIcon::Folder : FolderIcon::File;
-        (*asked->sink)(std::move(entry));
+        return (*asked->sink)(std::move(entry));
     } catch (const std::exception&) { // the host's code on the way back knows no exceptions of ours
         asked->complete = false;
+        return FALSE;
+    }
+}
+
+FolderOutcome OutcomeOf(QVListerAnswer answer) {
+    switch (answer) {
+    case QVLISTER_LISTED:
+        return FolderOutcome::Listed;
+    case QVLISTER_DENIED:
+        return FolderOutcome::Denied;
+    case QVLISTER_GONE:
+        return FolderOutcome::Gone;
+    default:
+        return FolderOutcome::NoAnswer;
     }
 }
 
 } // namespace
 
-bool AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink,
-                     bool& answered) {
+FolderResult AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink) {
     const QVFolderLister lister = g_lister;
     Asked asked = {&sink, content};
     const QVListerAnswer answer = lister ? lister(folder.c_str(), &AddEntry, &asked) : QVLISTER_ASK_SYSTEM;
-    answered = answer != QVLISTER_ASK_SYSTEM;
-    return answer == QVLISTER_LISTED && asked.complete;
+    if (answer == QVLISTER_ASK_SYSTEM)
+        return {};
+    return {asked.complete ? OutcomeOf(answer) : FolderOutcome::NoAnswer, true};
 }
 
 QVFolderLister QV_SetFolderLister(QVFolderLister lister) {

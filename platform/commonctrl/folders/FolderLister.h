@@ -5,8 +5,7 @@
 
 namespace _qv_commonctrl {
 
-// Asks the host. `answered` is FALSE when there is no lister or it leaves the folder to the system.
-bool AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink,
-                     bool& answered);
+// Asks the host. `byHost` of the result is FALSE when there is no lister or it leaves the folder to the system.
+FolderResult AskFolderLister(const std::wstring& folder, FolderContent content, const FolderSink& sink);
 
 } // namespace _qv_commonctrl

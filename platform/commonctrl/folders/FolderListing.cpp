@@ -1,5 +1,6 @@
 #include "FolderListing.h"
 
+#include "FolderPath.h"
 #include "module/Files.h"
 
 #include <algorithm>
@@ -24,7 +25,7 @@ class FolderListing::Reading {
         : m_request(std::move(request)), m_report(report) {}
 
     void Run() {
-        m_succeeded = ListFolder(m_request, [this](FolderEntry&& entry) { Add(std::move(entry)); });
+        m_result = ListFolder(m_request, [this](FolderEntry&& entry) { return Add(std::move(entry)); });
     }
 
     std::vector<FolderEntry> Take() {
@@ -36,32 +37,42 @@ class FolderListing::Reading {
         return taken;
     }
 
-    bool Succeeded() const { return m_succeeded; }
+    FolderResult Result() const { return m_result; }
+    HANDLE Some() const { return m_some.get(); }
+    void Abandon() { m_abandoned = true; }
 
   private:
     // The window hears of new entries when it has taken those of the last time: it sets the pace.
-    void Add(FolderEntry&& entry) {
+    bool Add(FolderEntry&& entry) {
+        if (m_abandoned)
+            return false;
         const std::scoped_lock lock(m_mutex);
         m_ready.push_back(std::move(entry));
         if (m_reported || m_ready.size() < std::max(kFirstStep, m_taken / kGrowthDivisor))
-            return;
+            return true;
         m_reported = true;
+        SetEvent(m_some.get());
         if (m_report.wnd)
             PostMessageW(m_report.wnd, m_report.message, m_report.id, 0);
+        return true;
     }
 
     FolderRequest m_request;
     TaskReport m_report;
+    Handle m_some{CreateEventW(nullptr, TRUE, FALSE, nullptr)}; // there are entries worth showing
     std::mutex m_mutex;
     std::vector<FolderEntry> m_ready; // read and not taken
     std::size_t m_taken = 0;
     bool m_reported = false;
-    std::atomic<bool> m_succeeded = false;
+    std::atomic<FolderResult> m_result = FolderResult();
+    std::atomic<bool> m_abandoned = false;
 };
 
 FolderListing::FolderListing() = default;
 
-FolderListing::~FolderListing() = default;
+FolderListing::~FolderListing() {
+    m_reading->Abandon();
+}
 
 std::unique_ptr<FolderListing> FolderListing::Start(FolderRequest request, const TaskReport& report) {
     std::unique_ptr<FolderListing> listing(new FolderListing);
@@ -70,8 +81,12 @@ std::unique_ptr<FolderListing> FolderListing::Start(FolderRequest request, const
     return listing->m_task ? std::move(listing) : nullptr;
 }
 
-bool FolderListing::Succeeded() const {
-    return m_reading->Succeeded();
+FolderResult FolderListing::Result() const {
+    return m_reading->Result();
+}
+
+bool FolderListing::WaitForSome(DWORD milliseconds) const {
+    return m_task->WaitFor(m_reading->Some(), milliseconds);
 }
 
 std::vector<FolderEntry> FolderListing::Take() {
@@ -80,7 +95,7 @@ std::vector<FolderEntry> FolderListing::Take() {
 
 bool FolderIsThere(const std::wstring& path, DWORD milliseconds) {
     const auto there = std::make_shared<std::atomic<bool>>(false);
-    const auto task = BackgroundTask::Start([path, there] { *there = FolderExists(path); }, {});
+    const auto task = BackgroundTask::Start([path, there] { *there = FolderExists(LongPath(path)); }, {});
     return task && task->Wait(milliseconds) && *there;
 }
 

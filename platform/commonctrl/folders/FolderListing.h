@@ -6,6 +6,7 @@
 
 namespace _qv_commonctrl {
 
+// A listing that is given up ends at its next entry.
 class FolderListing {
   public:
     // Null when no thread can be had. The report comes at the end, and in a large folder also on the way,
@@ -15,8 +16,10 @@ class FolderListing {
 
     // Whether the listing has ended, at once or within the time.
     bool Wait(DWORD milliseconds) const { return m_task->Wait(milliseconds); }
-    // Whether the folder was listed to its end. To be asked after the end only.
-    bool Succeeded() const;
+    // The same, or there are entries to take before the end.
+    bool WaitForSome(DWORD milliseconds) const;
+    // How it went. To be asked after the end only.
+    FolderResult Result() const;
     // The entries that were read and not taken yet, in the order of reading. May be called at any time.
     std::vector<FolderEntry> Take();
 

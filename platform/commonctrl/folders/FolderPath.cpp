@@ -6,6 +6,8 @@ namespace _qv_commonctrl {
 
 namespace {
 
+constexpr std::size_t kClassicLimit = 248; // a folder's path must leave room for a short name below it
+
 int CompareNames(const std::wstring& a, const std::wstring& b) {
     return CompareStringOrdinal(a.c_str(), static_cast<int>(a.size()), b.c_str(), static_cast<int>(b.size()),
                                 TRUE);
@@ -39,11 +41,10 @@ std::size_t RootLength(const std::wstring& path) {
     return std::min(path.find(L'\\', server + 1), path.size());
 }
 
-std::wstring SearchPattern(const std::wstring& folder) {
-    const std::wstring pattern = JoinPath(folder, L"*");
-    if (pattern.size() < MAX_PATH || pattern.starts_with(L"\\\\"))
-        return pattern;
-    return L"\\\\?\\" + pattern;
+std::wstring LongPath(const std::wstring& path) {
+    if (path.size() < kClassicLimit || path.starts_with(L"\\\\?\\"))
+        return path;
+    return path.starts_with(L"\\\\") ? L"\\\\?\\UNC" + path.substr(1) : L"\\\\?\\" + path;
 }
 
 bool SameName(const std::wstring& a, const std::wstring& b) {

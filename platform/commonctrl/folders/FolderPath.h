@@ -18,9 +18,8 @@ std::wstring NormalFolderPath(const std::wstring& path);
 // absolute.
 std::size_t RootLength(const std::wstring& path);
 
-// What finds all entries of a folder. Paths beyond the classic limit get the prefix that switches the limit
-// off.
-std::wstring SearchPattern(const std::wstring& folder);
+// A path as the system takes it: one beyond the classic limit gets the prefix that switches the limit off.
+std::wstring LongPath(const std::wstring& path);
 
 // As the file system tells names apart.
 bool SameName(const std::wstring& a, const std::wstring& b);

@@ -26,15 +26,23 @@ void ItemListing::InsertTaken(DirTreeItems& items) {
         items.SortChildren(m_item, m_sortKeys);
 }
 
+void ItemListing::OnChildAdded(DirTreeItems& items, HTREEITEM child) {
+    if (m_begun) // else the first entries find it among the children
+        NoteChild(items, child);
+}
+
 void ItemListing::NoteChildren(DirTreeItems& items) {
-    for (HTREEITEM child = items.FirstChild(m_item); child; child = items.NextSibling(child)) {
-        FolderEntry entry;
-        entry.name = items.TextOf(child);
-        entry.kind = items.KindOf(child);
-        m_former.insert(items.NameOf(child));
-        items.SetPlace(child, static_cast<LPARAM>(m_sortKeys.size()));
-        m_sortKeys.push_back(FolderSortKey(entry));
-    }
+    for (HTREEITEM child = items.FirstChild(m_item); child; child = items.NextSibling(child))
+        NoteChild(items, child);
+}
+
+void ItemListing::NoteChild(DirTreeItems& items, HTREEITEM child) {
+    FolderEntry entry;
+    entry.name = items.TextOf(child);
+    entry.kind = items.KindOf(child);
+    m_former.insert(items.NameOf(child));
+    items.SetPlace(child, static_cast<LPARAM>(m_sortKeys.size()));
+    m_sortKeys.push_back(FolderSortKey(entry));
 }
 
 } // namespace _qv_commonctrl

@@ -15,10 +15,11 @@ class ItemListing {
         : expand(expandThen), m_item(item), m_listing(std::move(listing)) {}
 
     HTREEITEM Item() const { return m_item; }
-    bool HasBegun() const { return m_begun; } // some of the folder's entries are in the tree
     bool Wait(DWORD milliseconds) const { return m_listing->Wait(milliseconds); }
-    bool Succeeded() const { return m_listing->Succeeded(); } // to be asked after the end only
+    FolderResult Result() const { return m_listing->Result(); } // to be asked after the end only
 
+    // A call has put a child into the tree: the listing is not to bring it once more.
+    void OnChildAdded(DirTreeItems& items, HTREEITEM child);
     // Puts what was read since the last time into the tree, in its place.
     void InsertTaken(DirTreeItems& items);
 
@@ -26,10 +27,11 @@ class ItemListing {
 
   private:
     void NoteChildren(DirTreeItems& items);
+    void NoteChild(DirTreeItems& items, HTREEITEM child);
 
     HTREEITEM m_item;
     std::unique_ptr<FolderListing> m_listing;
-    bool m_begun = false;
+    bool m_begun = false; // some of the folder's entries are in the tree
     // Children that were there before: put there by a call that could not wait, or by a listing that broke
     // off.
     std::set<std::wstring, NameLess> m_former;

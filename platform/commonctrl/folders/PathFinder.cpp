@@ -6,38 +6,43 @@ namespace _qv_commonctrl {
 
 namespace {
 
-constexpr DWORD kPatienceMs = 2000; // for all folders on the way together
+constexpr DWORD kWayPatienceMs = 2000;    // for all folders on the way together
+constexpr DWORD kFolderPatienceMs = 2000; // for the folder itself, however slow its parents are
 
 } // namespace
 
-PathFinder::PathFinder(DirTreeModel& model)
-    : m_model(model), m_items(model.Items()), m_deadline(GetTickCount64() + kPatienceMs) {
+PathFinder::PathFinder(DirTreeModel& model, const std::wstring& path)
+    : m_model(model), m_items(model.Items()), m_path(NormalFolderPath(path)),
+      m_deadline(GetTickCount64() + kWayPatienceMs) {
 }
 
-HTREEITEM PathFinder::Find(const std::wstring& wanted) {
-    const std::wstring path = NormalFolderPath(wanted);
+HTREEITEM PathFinder::Find() {
     const HTREEITEM desktop = m_items.Root();
-    if (!desktop || path.empty())
+    if (!desktop || m_path.empty())
         return nullptr;
-    if (SameName(m_items.PathOf(desktop), path))
+    if (SameName(m_items.PathOf(desktop), m_path))
         return desktop;
-    std::size_t at = RootLength(path);
-    HTREEITEM item = at > 0 ? FindRoot(path.substr(0, at)) : nullptr;
-    while (item && at < path.size()) {
-        at = path.find_first_not_of(L'\\', at);
-        const std::size_t end = std::min(path.find(L'\\', at), path.size());
-        const std::wstring text = path.substr(at, end - at);
+    std::size_t at = RootLength(m_path);
+    HTREEITEM parent = nullptr;
+    HTREEITEM item = at > 0 ? FindRoot() : nullptr;
+    while (item && at < m_path.size()) {
+        at = m_path.find_first_not_of(L'\\', at);
+        const std::size_t end = std::min(m_path.find(L'\\', at), m_path.size());
+        const std::wstring text = m_path.substr(at, end - at);
         if (text == L"." || text == L"..") // relative parts name no item
             return nullptr;
-        m_model.EnsureListed(item, m_deadline);
-        item = ChildOrNew(item, text, path.substr(0, end));
+        parent = item;
+        m_model.EnsureListed(parent, m_deadline);
+        item = ChildOrNew(parent, text, m_path.substr(0, end));
         at = end;
     }
-    return item;
+    // What was listed may have gone since. A drive or share, and what a host has listed, is taken as it is.
+    return item && (!parent || m_model.IsListedByHost(parent) || IsThere()) ? item : nullptr;
 }
 
-// The item of a drive or a share.
-HTREEITEM PathFinder::FindRoot(const std::wstring& root) {
+// The item of the path's drive or share.
+HTREEITEM PathFinder::FindRoot() {
+    const std::wstring root = m_path.substr(0, RootLength(m_path));
     const HTREEITEM desktop = m_items.Root();
     if (!m_model.EnsureListed(desktop, m_deadline))
         return nullptr;
@@ -53,8 +58,7 @@ HTREEITEM PathFinder::FindRoot(const std::wstring& root) {
 HTREEITEM PathFinder::ChildOrNew(HTREEITEM parent, const std::wstring& text, const std::wstring& path) {
     if (const HTREEITEM found = m_items.FindChild(parent, text, path))
         return found;
-    const ULONGLONG now = GetTickCount64();
-    if (!FolderIsThere(path, m_deadline > now ? static_cast<DWORD>(m_deadline - now) : 0))
+    if (!IsThere()) // then all folders on the way are there, too
         return nullptr;
     FolderEntry entry;
     entry.name = text;
@@ -63,8 +67,14 @@ HTREEITEM PathFinder::ChildOrNew(HTREEITEM parent, const std::wstring& text, con
         entry.icon = FolderIcon::Drive;
     }
     const HTREEITEM item = m_items.Insert(parent, TVI_SORT, entry, DirTreeItems::kNoPlace);
-    m_items.SetHasChildren(parent, true);
+    m_model.OnChildAdded(parent, item);
     return item;
+}
+
+bool PathFinder::IsThere() {
+    if (m_there == Answer::NotAsked)
+        m_there = FolderIsThere(m_path, kFolderPatienceMs) ? Answer::Yes : Answer::No;
+    return m_there == Answer::Yes;
 }
 
 } // namespace _qv_commonctrl

@@ -5,22 +5,27 @@
 
 namespace _qv_commonctrl {
 
-// Lists the folders on the way. A folder that the listing of its parent does not hold, since it is hidden or
-// younger or the parent cannot be listed, is put into the tree when it is there.
+// Lists the folders on the way. A folder that the listing of its parent does not hold, since it is hidden or younger or
+// the parent cannot be listed, is put into the tree when it is there.
 class PathFinder {
   public:
-    explicit PathFinder(DirTreeModel& model);
+    PathFinder(DirTreeModel& model, const std::wstring& path);
 
-    // Null when the folder is not there or the folders on the way take too long.
-    HTREEITEM Find(const std::wstring& path);
+    // Null when the folder is not there or does not answer in its time.
+    HTREEITEM Find();
 
   private:
-    HTREEITEM FindRoot(const std::wstring& root);
+    HTREEITEM FindRoot();
     HTREEITEM ChildOrNew(HTREEITEM parent, const std::wstring& text, const std::wstring& path);
+    bool IsThere();
+
+    enum class Answer { NotAsked, Yes, No };
 
     DirTreeModel& m_model;
     DirTreeItems& m_items;
+    std::wstring m_path;
     ULONGLONG m_deadline;
+    Answer m_there = Answer::NotAsked;
 };
 
 } // namespace _qv_commonctrl

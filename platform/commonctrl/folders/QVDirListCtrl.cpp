@@ -2,12 +2,10 @@
 
 #include "QVDict.h"
 #include "DirIcons.h"
-#include "FolderListing.h"
-#include "FolderOrder.h"
+#include "DirListRows.h"
 #include "FolderPath.h"
-#include "module/RedrawPause.h"
 
-#include <shlwapi.h>
+#include <iterator>
 
 namespace _qv_commonctrl {
 
@@ -15,46 +13,24 @@ IMPLEMENT_DYNAMIC(CQVDirListCtrl, CQVListCtrl)
 
 namespace {
 
-constexpr DWORD kPatienceMs = 2000; // a folder that does not answer in this time is answered with FALSE
-
-enum Column { kName, kSize, kModified, kColumns };
-
 struct ColumnLook {
     const wchar_t* key;
     int widthPx;
     int format;
 };
-constexpr ColumnLook kColumnLooks[kColumns] = {
+constexpr ColumnLook kColumnLooks[] = {
     {L"IDS_DIRLIST_NAME", 240, LVCFMT_LEFT},
     {L"IDS_DIRLIST_SIZE", 90, LVCFMT_RIGHT},
     {L"IDS_DIRLIST_MODIFIED", 130, LVCFMT_LEFT},
 };
 
-std::wstring SizeText(const FolderEntry& entry) {
-    wchar_t text[64] = L"";
-    if (entry.kind == FolderKind::File)
-        StrFormatByteSizeW(static_cast<LONGLONG>(entry.size), text, 64);
-    return text;
-}
-
-std::wstring TimeText(const FILETIME& time) {
-    SYSTEMTIME world = {};
-    SYSTEMTIME local = {};
-    wchar_t date[64] = L"";
-    wchar_t clock[64] = L"";
-    if ((time.dwLowDateTime | time.dwHighDateTime) == 0 || !FileTimeToSystemTime(&time, &world) ||
-        !SystemTimeToTzSpecificLocalTime(nullptr, &world, &local))
-        return std::wstring();
-    GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &local, nullptr, date, 64, nullptr);
-    GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, TIME_NOSECONDS, &local, nullptr, clock, 64);
-    return std::wstring(date) + L" " + clock;
-}
-
 } // namespace
 
-CQVDirListCtrl::CQVDirListCtrl() = default;
+CQVDirListCtrl::CQVDirListCtrl() : m_pRows(new DirListRows(*this)) {
+}
 
 CQVDirListCtrl::~CQVDirListCtrl() {
+    delete m_pRows;
     if (m_hIcons)
         ImageList_Destroy(m_hIcons);
 }
@@ -68,18 +44,11 @@ BOOL CQVDirListCtrl::SetPathName(LPCWSTR folder) {
         request.path = NormalFolderPath(folder);
         request.content = FolderContent::FoldersAndFiles;
         const CString path = request.path.c_str();
-        const auto listing = FolderListing::Start(std::move(request), {});
-        if (!listing || !listing->Wait(kPatienceMs) || !listing->Succeeded())
+        if (!m_pRows->Read(std::move(request)))
             return FALSE;
-        SetUpColumns();
-        const RedrawPause pause(m_hWnd);
-        DeleteAllItems();
-        auto entries = listing->Take();
-        SortEntries(entries);
-        SendMessage(LVM_SETITEMCOUNT, entries.size()); // room at once, not bit by bit
-        for (std::size_t i = 0; i < entries.size(); ++i)
-            InsertEntry(static_cast<int>(i), entries[i]);
         m_strFolder = path;
+        SetUpColumns();
+        m_pRows->Show();
         return TRUE;
     } catch (const std::exception&) { // memory ran out
         return FALSE;
@@ -94,7 +63,7 @@ void CQVDirListCtrl::SetUpColumns() {
     present.mask = LVCF_FMT;
     if (SendMessage(LVM_GETCOLUMNW, 0, reinterpret_cast<LPARAM>(&present)))
         return; // the host's own columns stay
-    for (int i = 0; i < kColumns; ++i) {
+    for (int i = 0; i < static_cast<int>(std::size(kColumnLooks)); ++i) {
         const CString title = QV_LoadSysString(kColumnLooks[i].key);
         LVCOLUMNW column = {};
         column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
@@ -104,18 +73,6 @@ void CQVDirListCtrl::SetUpColumns() {
         column.iSubItem = i;
         SendMessage(LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
     }
-}
-
-void CQVDirListCtrl::InsertEntry(int index, const FolderEntry& entry) {
-    LVITEMW item = {};
-    item.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
-    item.iItem = index;
-    item.pszText = const_cast<LPWSTR>(entry.name.c_str());
-    item.iImage = static_cast<int>(entry.icon);
-    item.lParam = entry.kind != FolderKind::File;
-    SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    SetItemText(index, kSize, SizeText(entry).c_str());
-    SetItemText(index, kModified, TimeText(entry.modified).c_str());
 }
 
 BOOL CQVDirListCtrl::GetPathName(CString& path, int item) const {
@@ -148,19 +105,31 @@ void CQVDirListCtrl::OnSkinChange(UINT reason, HWND wnd) {
     CQVListCtrl::OnSkinChange(reason, wnd);
 }
 
-// Opens the folder that has the keyboard, and the folder above with the backspace key.
+// A folder that the user activates is opened when everybody has heard of it: the host may read the row.
 BOOL CQVDirListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto* notification = reinterpret_cast<NMHDR*>(lParam);
     if (message == WM_NOTIFY && notification->code == static_cast<UINT>(LVN_ITEMACTIVATE)) {
         const int item = GetNextItem(-1, LVNI_FOCUSED);
         CString path;
-        if (item >= 0 && GetItemData(item) && GetPathName(path, item))
-            SetPathName(path);
+        if (item >= 0 && GetItemData(item) && GetPathName(path, item)) {
+            m_pRows->toOpen = path;
+            PostMessage(DirListRows::OpenMessage());
+        }
     }
     return CQVListCtrl::OnChildNotify(message, wParam, lParam, result);
 }
 
 LRESULT CQVDirListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == DirListRows::ListedMessage()) {
+        m_pRows->OnListed(static_cast<UINT>(wParam));
+        return 0;
+    }
+    if (message == DirListRows::OpenMessage()) {
+        SetPathName(m_pRows->toOpen.c_str());
+        return 0;
+    }
+    if (message == WM_NCDESTROY) // before the base: PostNcDestroy may delete this object
+        m_pRows->OnWindowGone();
     if (message == WM_KEYDOWN && wParam == VK_BACK && !m_strFolder.IsEmpty()) {
         const int slash = m_strFolder.ReverseFind(L'\\');
         if (slash > 0 && slash + 1 < m_strFolder.GetLength())

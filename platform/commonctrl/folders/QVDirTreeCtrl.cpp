@@ -79,10 +79,9 @@ LRESULT CQVDirTreeCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         ::SetCursor(::LoadCursorW(nullptr, IDC_APPSTARTING));
         return TRUE;
     }
-    const LRESULT result = CQVTreeCtrl::WindowProc(message, wParam, lParam);
-    if (message == WM_NCDESTROY)
+    if (message == WM_NCDESTROY) // before the base: PostNcDestroy may delete this object
         m_pModel->OnWindowGone();
-    return result;
+    return CQVTreeCtrl::WindowProc(message, wParam, lParam);
 }
 
 } // namespace _qv_commonctrl

@@ -62,23 +62,6 @@ bool ReadEntry(IShellFolder* parent, PCIDLIST_ABSOLUTE parentPidl, PCUITEMID_CHI
     return true;
 }
 
-bool Enumerate(IShellFolder* folder, PCIDLIST_ABSOLUTE pidl, FolderContent content,
-               std::vector<FolderEntry>& entries) {
-    ComPtr<IEnumIDList> items;
-    const SHCONTF wanted =
-        SHCONTF_FOLDERS | (content == FolderContent::FoldersAndFiles ? SHCONTF_NONFOLDERS : 0);
-    if (folder->EnumObjects(nullptr, wanted, &items) != S_OK)
-        return false;
-    PITEMID_CHILD next = nullptr;
-    while (items->Next(1, &next, nullptr) == S_OK) {
-        const ChildPidl item(next);
-        FolderEntry entry;
-        if (ReadEntry(folder, pidl, item.get(), content, entry))
-            entries.push_back(std::move(entry));
-    }
-    return true;
-}
-
 std::wstring LabelOf(const std::wstring& root) {
     wchar_t label[MAX_PATH + 1] = L"";
     if (GetDriveTypeW(root.c_str()) != DRIVE_FIXED ||
@@ -89,13 +72,31 @@ std::wstring LabelOf(const std::wstring& root) {
 
 } // namespace
 
+bool ListShellItems(IShellFolder* folder, PCIDLIST_ABSOLUTE pidl, FolderContent content,
+                    std::vector<FolderEntry>& entries) {
+    ComPtr<IEnumIDList> items;
+    const SHCONTF wanted =
+        SHCONTF_FOLDERS | (content == FolderContent::FoldersAndFiles ? SHCONTF_NONFOLDERS : 0);
+    const HRESULT found = folder->EnumObjects(nullptr, wanted, &items);
+    if (FAILED(found) || found == S_FALSE) // S_FALSE: there is nothing to enumerate
+        return found == S_FALSE;
+    PITEMID_CHILD next = nullptr;
+    while (items->Next(1, &next, nullptr) == S_OK) {
+        const ChildPidl item(next);
+        FolderEntry entry;
+        if (ReadEntry(folder, pidl, item.get(), content, entry))
+            entries.push_back(std::move(entry));
+    }
+    return true;
+}
+
 bool ListDesktop(FolderContent content, std::vector<FolderEntry>& entries) {
     const ComScope com;
     ComPtr<IShellFolder> desktop;
     const Pidl pidl = SpecialFolder(CSIDL_DESKTOP);
     if (!pidl || FAILED(SHGetDesktopFolder(&desktop)))
         return false;
-    return Enumerate(desktop.Get(), pidl.get(), content, entries);
+    return ListShellItems(desktop.Get(), pidl.get(), content, entries);
 }
 
 bool ListDrives(std::vector<FolderEntry>& entries) {
@@ -123,7 +124,7 @@ bool ListShellFolder(PCIDLIST_ABSOLUTE pidl, FolderContent content, std::vector<
     if (!pidl || FAILED(SHGetDesktopFolder(&desktop)) ||
         FAILED(desktop->BindToObject(pidl, nullptr, IID_IShellFolder, reinterpret_cast<void**>(&folder))))
         return false;
-    return Enumerate(folder.Get(), pidl, content, entries);
+    return ListShellItems(folder.Get(), pidl, content, entries);
 }
 
 std::wstring DesktopName() {

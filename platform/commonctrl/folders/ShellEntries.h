@@ -12,6 +12,10 @@ bool ListDesktop(FolderContent content, std::vector<FolderEntry>& entries);
 // reader takes no time.
 bool ListDrives(std::vector<FolderEntry>& entries);
 
+// What a folder of the name space holds; `pidl` is its own place. A folder that holds nothing is listed, too.
+bool ListShellItems(IShellFolder* folder, PCIDLIST_ABSOLUTE pidl, FolderContent content,
+                    std::vector<FolderEntry>& entries);
+
 // A folder that only the shell knows.
 bool ListShellFolder(PCIDLIST_ABSOLUTE folder, FolderContent content, std::vector<FolderEntry>& entries);
 

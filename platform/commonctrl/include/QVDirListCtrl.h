@@ -5,8 +5,6 @@
 
 namespace _qv_commonctrl {
 
-struct FolderEntry;
-
 // A list of one folder's entries: folders first, then files. Enter or a double click opens a folder,
 // backspace the one above. In the report view it has the columns name, size and date unless the host has
 // inserted its own.
@@ -17,7 +15,8 @@ class QVCOMMONCTRL_API CQVDirListCtrl : public CQVListCtrl {
     CQVDirListCtrl();
     ~CQVDirListCtrl() override;
 
-    // Shows a folder. FALSE, list unchanged, when it does not exist or does not answer within 2 seconds.
+    // Shows a folder. FALSE, list unchanged, when it does not exist or nothing of it is known within 2 seconds. A large
+    // folder is shown as soon as there are rows, and is filled while it is read.
     BOOL SetPathName(LPCWSTR folder);
     // Path of entry `item` (0-based), of the shown folder for -1. FALSE, and `path` empty, when there is
     // none.
@@ -31,11 +30,11 @@ class QVCOMMONCTRL_API CQVDirListCtrl : public CQVListCtrl {
 
   private:
     void SetUpColumns();
-    void InsertEntry(int index, const FolderEntry& entry);
     void RefreshIcons();
 
     CString m_strFolder;
     HIMAGELIST m_hIcons = nullptr;
+    class DirListRows* m_pRows;
 };
 
 } // namespace _qv_commonctrl

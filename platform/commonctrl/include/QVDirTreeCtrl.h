@@ -21,8 +21,8 @@ class QVCOMMONCTRL_API CQVDirTreeCtrl : public CQVTreeCtrl {
     // Roots the tree at the desktop and expands it, now or as soon as the shell answers. FALSE when the shell
     // cannot be asked.
     BOOL SetDesktopFolder();
-    // Expands and selects the folder. FALSE, selection unchanged, when it does not exist or the folders on
-    // the way do not answer within 2 seconds.
+    // Expands and selects the folder, and its parents even where they cannot be listed. FALSE, selection unchanged, when
+    // it is not there (any more) or does not answer within 2 seconds; slow parents may take 2 seconds before that.
     BOOL SetPathName(LPCWSTR path);
     // The selected folder's path; empty for none or for a virtual folder (such as "My Computer"). The root is
     // the user's desktop folder.

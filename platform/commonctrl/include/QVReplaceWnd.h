@@ -19,6 +19,11 @@ struct QVReplaceData {
 // also when it is replaced already; FALSE for a window of another thread or process or no window at all.
 QVCOMMONCTRL_API BOOL QV_ReplaceWnd(HWND wnd);
 
+// Says which colour of the skin the corner has where both bars meet: that of the rows, for instance, of which it then
+// looks like a part. -1, as it is at first, is the ground of the bars (QVCLR_SCROLL_TRACK). Whoever replaces the bars
+// owns the corner with them: nobody else need paint it. FALSE when the window is not replaced.
+QVCOMMONCTRL_API BOOL QV_SetReplaceCorner(HWND wnd, int colorIndex);
+
 // Gives the native bars back. FALSE when the window was not replaced. A destroyed window releases itself.
 QVCOMMONCTRL_API BOOL QV_UnReplaceWnd(HWND wnd);
 

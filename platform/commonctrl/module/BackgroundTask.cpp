@@ -37,6 +37,7 @@ DWORD WINAPI BackgroundTask::ThreadProc(void* parameter) {
 }
 
 void BackgroundTask::Run() {
+    const QuietDrives quiet;
     try {
         m_work();
     } catch (const std::exception&) { // memory ran out: the result stays what it is

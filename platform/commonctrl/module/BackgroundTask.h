@@ -23,6 +23,11 @@ class BackgroundTask {
     BackgroundTask(const BackgroundTask&) = delete;
     BackgroundTask& operator=(const BackgroundTask&) = delete;
 
+    // TRUE when the work has ended or the event is set, at once or within the time.
+    bool WaitFor(HANDLE event, DWORD milliseconds) const {
+        const HANDLE either[] = {m_done.get(), event};
+        return WaitForMultipleObjects(2, either, FALSE, milliseconds) < WAIT_OBJECT_0 + 2;
+    }
     // TRUE when the work has ended, at once or within the time.
     bool Wait(DWORD milliseconds) const {
         return WaitForSingleObject(m_done.get(), milliseconds) == WAIT_OBJECT_0;

@@ -68,6 +68,18 @@ template <class Owner> Owner Valid(HANDLE handle) {
     return Owner(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
+// No box of the system ("there is no disk in the drive") stands up on this thread: what fails just fails.
+class QuietDrives {
+  public:
+    QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &m_former); }
+    ~QuietDrives() { SetThreadErrorMode(m_former, nullptr); }
+    QuietDrives(const QuietDrives&) = delete;
+    QuietDrives& operator=(const QuietDrives&) = delete;
+
+  private:
+    DWORD m_former = 0;
+};
+
 // The device context of the screen.
 class ScreenDc {
   public:

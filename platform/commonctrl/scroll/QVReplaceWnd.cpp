@@ -10,6 +10,10 @@ bool IsOwnThreads(HWND wnd) {
     return wnd && GetWindowThreadProcessId(wnd, nullptr) == GetCurrentThreadId();
 }
 
+ScrollSkin* FindOwn(HWND wnd) {
+    return IsOwnThreads(wnd) ? ScrollSkin::Find(wnd) : nullptr;
+}
+
 } // namespace
 
 BOOL QV_ReplaceWnd(HWND wnd) {
@@ -22,8 +26,16 @@ BOOL QV_ReplaceWnd(HWND wnd) {
     }
 }
 
+BOOL QV_SetReplaceCorner(HWND wnd, int colorIndex) {
+    ScrollSkin* const skin = FindOwn(wnd);
+    if (!skin)
+        return FALSE;
+    skin->SetCornerColor(colorIndex);
+    return TRUE;
+}
+
 BOOL QV_UnReplaceWnd(HWND wnd) {
-    ScrollSkin* const skin = IsOwnThreads(wnd) ? ScrollSkin::Find(wnd) : nullptr;
+    ScrollSkin* const skin = FindOwn(wnd);
     if (!skin)
         return FALSE;
     skin->Detach();
@@ -31,7 +43,7 @@ BOOL QV_UnReplaceWnd(HWND wnd) {
 }
 
 BOOL QV_GetReplaceData(HWND wnd, QVReplaceData& data) {
-    ScrollSkin* const skin = IsOwnThreads(wnd) ? ScrollSkin::Find(wnd) : nullptr;
+    ScrollSkin* const skin = FindOwn(wnd);
     if (!skin)
         return FALSE;
     skin->Describe(data);

@@ -8,6 +8,8 @@ namespace _qv_commonctrl {
 namespace {
 
 constexpr const wchar_t* kClassName = L"QVScrollOverlay";
+constexpr UINT_PTR kOverlayId =
+    0x51565342; // "QVSB": a host that looks for one of its controls never finds an overlay
 
 // The window class lives as long as the DLL, which may be unloaded before the process ends.
 class OverlayClass {
@@ -58,7 +60,8 @@ bool ScrollOverlay::CreateWindowOnce() {
     const DWORD style = topLevel ? WS_POPUP : WS_CHILD | WS_CLIPSIBLINGS;
     const DWORD exStyle =
         WS_EX_NOPARENTNOTIFY | (topLevel ? WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TOPMOST : 0);
-    CreateWindowExW(exStyle, kClassName, L"", style, 0, 0, 0, 0, parent, nullptr, GetOwnModule(), this);
+    const auto id = topLevel ? nullptr : reinterpret_cast<HMENU>(kOverlayId);
+    CreateWindowExW(exStyle, kClassName, L"", style, 0, 0, 0, 0, parent, id, GetOwnModule(), this);
     return m_wnd != nullptr;
 }
 

@@ -14,6 +14,7 @@ struct OverlayPicture {
     ScrollBarShape shape;
     ScrollPart hot = ScrollPart::None;
     ScrollPart pressed = ScrollPart::None;
+    int ground = -1; // of a corner: a colour index; -1 as the bars
 
     bool operator==(const OverlayPicture&) const = default;
 };

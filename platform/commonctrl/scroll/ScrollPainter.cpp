@@ -60,7 +60,8 @@ void PaintScrollBar(HDC target, const CRect& rect, OverlayKind kind, const Overl
                     HWND wnd) {
     CDC* const targetDc = CDC::FromHandle(target);
     CQVMemoDC dc(targetDc, rect);
-    dc.FillSolidRect(rect, QV_GetSysColor(QVCLR_SCROLL_TRACK));
+    const int ground = picture.ground >= 0 ? picture.ground : static_cast<int>(QVCLR_SCROLL_TRACK);
+    dc.FillSolidRect(rect, QV_GetSysColor(ground));
     if (kind == OverlayKind::Corner)
         return;
     const bool vertical = kind == OverlayKind::Vertical;

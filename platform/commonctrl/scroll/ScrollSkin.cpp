@@ -196,6 +196,11 @@ void ScrollSkin::Describe(QVReplaceData& data) {
         data.rcHorz.OffsetRect(-window.left, -window.top);
 }
 
+void ScrollSkin::SetCornerColor(int colorIndex) {
+    m_cornerColor = colorIndex;
+    Synchronise();
+}
+
 LRESULT CALLBACK ScrollSkin::WindowProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto found = Registry().find(wnd);
     if (found == Registry().end())
@@ -328,7 +333,9 @@ void ScrollSkin::Synchronise() {
     m_seen = Look();
     m_vertical.Synchronise();
     m_horizontal.Synchronise();
-    m_corner.Show(CornerRect(), OverlayPicture());
+    OverlayPicture corner;
+    corner.ground = m_cornerColor;
+    m_corner.Show(CornerRect(), corner);
     m_synchronising = false;
 }
 

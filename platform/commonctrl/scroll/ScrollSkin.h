@@ -21,6 +21,8 @@ class ScrollSkin {
     // Gives the native bars back and deletes the object.
     void Detach();
     void Describe(QVReplaceData& data);
+    // -1: the ground of the bars.
+    void SetCornerColor(int colorIndex);
 
   private:
     explicit ScrollSkin(HWND wnd);
@@ -57,6 +59,7 @@ class ScrollSkin {
     SkinnedBar m_vertical;
     SkinnedBar m_horizontal;
     ScrollOverlay m_corner;
+    int m_cornerColor = -1;
     Glance m_seen; // when the bars were last shown
     bool m_addedClipSiblings = false;
     bool m_synchroniseAsked = false;

@@ -14,7 +14,7 @@ CQVListCtrl::~CQVListCtrl() = default;
 
 void CQVListCtrl::PreSubclassWindow() {
     CListCtrl::PreSubclassWindow();
-    AttachSkin(this);
+    AttachSkinAndFont(this);
     m_setup.Reset();
     Invalidate(FALSE);
 }
@@ -78,6 +78,8 @@ BOOL CQVListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRES
 LRESULT CQVListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_setup.HasCome(message, false))
         SetUp();
+    if (message == WM_SETFONT)
+        NoteSkinFont(reinterpret_cast<HFONT>(wParam));
     LRESULT result = 0;
     if (PaintRows(*this, message, wParam, QVCLR_LIST, result,
                   [this](HDC dc) { return DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc), 0); }))

@@ -13,7 +13,7 @@ CQVTreeCtrl::~CQVTreeCtrl() = default;
 
 void CQVTreeCtrl::PreSubclassWindow() {
     CTreeCtrl::PreSubclassWindow();
-    AttachSkin(this);
+    AttachSkinAndFont(this);
     m_setup.Reset();
     Invalidate(FALSE);
 }
@@ -46,6 +46,8 @@ BOOL CQVTreeCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRES
 LRESULT CQVTreeCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_setup.HasCome(message, false))
         SetUp();
+    if (message == WM_SETFONT)
+        NoteSkinFont(reinterpret_cast<HFONT>(wParam));
     LRESULT result = 0;
     if (PaintRows(*this, message, wParam, QVCLR_TREE, result,
                   [this](HDC dc) { return DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc), 0); }))

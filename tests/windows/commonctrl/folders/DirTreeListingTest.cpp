@@ -93,6 +93,208 @@ TEST_F(DirTree, ItemsMayBeDeletedWhileAFolderHangs) {
     EXPECT_TRUE(m_tree.SetPathName(folder.path().c_str()));
 }
 
+// What a lister answers for folders whose path ends with \\closed.
+class ClosedFolder {
+  public:
+    explicit ClosedFolder(QVListerAnswer answer) {
+        s_answer = answer;
+        QV_SetFolderLister(&List);
+    }
+    ~ClosedFolder() { QV_SetFolderLister(nullptr); }
+
+  private:
+    static QVListerAnswer CALLBACK List(LPCWSTR folder, QVAddFolderEntry, void*) {
+        return std::wstring(folder).ends_with(L"\\closed") ? s_answer.load() : QVLISTER_ASK_SYSTEM;
+    }
+    static inline std::atomic<QVListerAnswer> s_answer = QVLISTER_ASK_SYSTEM;
+};
+
+TEST_F(DirTree, FolderBelowOneThatCannotBeListedIsSeenAndOpensLater) {
+    const TempFolder folder;
+    folder.folder(L"closed\\inner\\deep");
+    const std::wstring inner = folder.path(L"closed\\inner");
+    HTREEITEM parent = nullptr;
+    {
+        const ClosedFolder closed(QVLISTER_DENIED);
+        ASSERT_TRUE(m_tree.SetPathName(inner.c_str()));
+        EXPECT_STREQ(inner.c_str(), m_tree.GetPathName());
+        parent = m_tree.GetParentItem(m_tree.GetSelectedItem());
+        EXPECT_TRUE(expanded(parent));
+        CRect place;
+        EXPECT_TRUE(
+            m_tree.GetItemRect(m_tree.GetSelectedItem(), place, FALSE)); // FALSE for one that is not shown
+        TestHost::PumpUntil([&] { return expanded(m_tree.GetSelectedItem()); });
+        EXPECT_EQ(std::vector<std::wstring>{L"deep"}, childrenOf(m_tree.GetSelectedItem()));
+        // Shut and opened again, as a user does.
+        m_tree.SelectItem(parent);
+        m_tree.SendMessage(WM_KEYDOWN, VK_LEFT);
+        EXPECT_FALSE(expanded(parent));
+        m_tree.SendMessage(WM_KEYDOWN, VK_RIGHT);
+        EXPECT_TRUE(expanded(parent));
+        TestHost::Settle();
+    }
+    folder.folder(L"closed\\other");
+    m_tree.SendMessage(WM_KEYDOWN, VK_F5);
+    EXPECT_TRUE(TestHost::PumpUntil([&] { return childrenOf(parent).size() == 2; }));
+}
+
+TEST_F(DirTree, FolderThatHasGoneSinceItWasListedIsNotThere) {
+    const TempFolder folder;
+    folder.folder(L"gone");
+    folder.folder(L"stays");
+    ASSERT_NE(nullptr, open(folder));
+    const CString before = m_tree.GetPathName();
+    ASSERT_TRUE(RemoveDirectoryW(folder.path(L"gone").c_str()));
+    EXPECT_FALSE(m_tree.SetPathName(folder.path(L"gone").c_str()));
+    EXPECT_EQ(before, m_tree.GetPathName());
+    EXPECT_TRUE(m_tree.SetPathName(folder.path(L"stays").c_str()));
+}
+
+TEST_F(DirTree, FolderHasItsOwnTimeBelowASlowParent) {
+    const TempFolder folder;
+    folder.folder(L"dead\\a\\b");
+    ASSERT_NE(nullptr, open(folder));
+    const DeadFolder block;
+    EXPECT_TRUE(m_tree.SetPathName(folder.path(L"dead\\a\\b").c_str()));
+    EXPECT_STREQ(folder.path(L"dead\\a\\b").c_str(), m_tree.GetPathName());
+}
+
+TEST_F(DirTree, ListedAgainDuringTheFirstOpeningItStillOpens) {
+    const TempFolder folder;
+    folder.folder(L"dead");
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
+    const HTREEITEM dead = m_tree.GetChildItem(item);
+    {
+        const DeadFolder block;
+        m_tree.SelectItem(dead);
+        m_tree.Expand(dead, TVE_EXPAND);
+        m_tree.SendMessage(WM_KEYDOWN, VK_F5);
+        m_tree.SendMessage(WM_KEYDOWN, VK_F5);
+        TestHost::Settle();
+        EXPECT_FALSE(expanded(dead));
+    }
+    EXPECT_TRUE(TestHost::PumpUntil([&] { return expanded(dead); }));
+}
+
+TEST_F(DirTree, ListedAgainTwiceItStaysOpen) {
+    const TempFolder folder;
+    folder.folder(L"dead");
+    folder.folder(L"dead\\inner");
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
+    const HTREEITEM dead = m_tree.GetChildItem(item);
+    m_tree.SelectItem(dead);
+    m_tree.Expand(dead, TVE_EXPAND);
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return expanded(dead); }));
+    {
+        const DeadFolder block;
+        m_tree.SendMessage(WM_KEYDOWN, VK_F5);
+        TestHost::Settle();
+        m_tree.SendMessage(WM_KEYDOWN, VK_F5);
+    }
+    EXPECT_TRUE(TestHost::PumpUntil([&] { return expanded(dead); }));
+}
+
+// What the threads of tree and list touch a drive with.
+std::atomic<DWORD> g_errorMode = 0;
+QVListerAnswer CALLBACK NoteErrorMode(LPCWSTR folder, QVAddFolderEntry, void*) {
+    if (std::wstring(folder).ends_with(L"\\noted"))
+        g_errorMode = GetThreadErrorMode();
+    return QVLISTER_ASK_SYSTEM;
+}
+
+TEST_F(DirTree, ThreadsShowNoBoxOfTheSystem) {
+    const TempFolder folder;
+    folder.folder(L"noted");
+    const UINT former = SetErrorMode(0);
+    QV_SetFolderLister(&NoteErrorMode);
+    g_errorMode = 0;
+    EXPECT_TRUE(m_tree.SetPathName(folder.path(L"noted").c_str()));
+    TestHost::PumpUntil([] { return g_errorMode != 0; });
+    EXPECT_TRUE(g_errorMode & SEM_FAILCRITICALERRORS);
+    g_errorMode = 0;
+    CQVDirListCtrl list;
+    list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(20, 20, 200, 200), &m_host, 1);
+    EXPECT_TRUE(list.SetPathName(folder.path(L"noted").c_str()));
+    EXPECT_TRUE(g_errorMode & SEM_FAILCRITICALERRORS);
+    QV_SetFolderLister(nullptr);
+    SetErrorMode(former);
+    list.DestroyWindow();
+}
+
+// A folder \\endless gives entries until nobody wants more.
+class EndlessFolder {
+  public:
+    EndlessFolder() {
+        s_running = 0;
+        QV_SetFolderLister(&List);
+    }
+    ~EndlessFolder() {
+        QV_SetFolderLister(nullptr);
+        s_stop = true;
+        while (s_running)
+            Sleep(5);
+        s_stop = false;
+    }
+    static bool running() { return s_running > 0; }
+
+  private:
+    static QVListerAnswer CALLBACK List(LPCWSTR folder, QVAddFolderEntry add, void* context) {
+        if (!std::wstring(folder).ends_with(L"\\endless"))
+            return QVLISTER_ASK_SYSTEM;
+        ++s_running;
+        for (int i = 0; !s_stop && add(context, (L"folder " + std::to_wstring(i)).c_str(), TRUE); ++i)
+            Sleep(1);
+        --s_running;
+        return QVLISTER_LISTED;
+    }
+    static inline std::atomic<bool> s_stop = false;
+    static inline std::atomic<int> s_running = 0;
+};
+
+TEST_F(DirTree, ListingThatNobodyWaitsForEnds) {
+    const TempFolder folder;
+    folder.folder(L"endless");
+    const HTREEITEM item = open(folder);
+    ASSERT_NE(nullptr, item);
+    const EndlessFolder endless;
+    m_tree.Expand(m_tree.GetChildItem(item), TVE_EXPAND);
+    ASSERT_TRUE(TestHost::PumpUntil([] { return EndlessFolder::running(); }));
+    m_tree.DeleteItem(m_tree.GetChildItem(item));
+    EXPECT_TRUE(TestHost::PumpUntil([] { return !EndlessFolder::running(); }));
+}
+
+// Deletes itself with its window, as framework windows may; by then nothing of it is at work any more.
+class OwnTree : public CQVDirTreeCtrl {
+  public:
+    explicit OwnTree(bool& quiet) : m_quiet(quiet) {}
+
+  protected:
+    void PostNcDestroy() override {
+        m_quiet = TestHost::PumpUntil([] { return !EndlessFolder::running(); });
+        delete this;
+    }
+
+  private:
+    bool& m_quiet;
+};
+
+TEST_F(DirTree, MayDeleteItselfWithItsWindow) {
+    const TempFolder folder;
+    folder.folder(L"endless");
+    const EndlessFolder endless;
+    bool quiet = false;
+    auto* const tree = new OwnTree(quiet);
+    ASSERT_TRUE(tree->Create(kTreeStyle, CRect(20, 20, 200, 200), &m_host, 7));
+    tree->SetTreeCtrl(1);
+    ASSERT_TRUE(tree->SetDesktopFolder());
+    ASSERT_TRUE(tree->SetPathName(folder.path(L"endless").c_str()));
+    ASSERT_TRUE(TestHost::PumpUntil([] { return EndlessFolder::running(); }));
+    tree->DestroyWindow();
+    EXPECT_TRUE(quiet);
+}
+
 std::vector<std::wstring> numberedFolders(int from, int end) {
     std::vector<std::wstring> names;
     for (int i = from; i < end; ++i)
@@ -287,6 +489,35 @@ TEST_F(SlowTree, ListingThatBrokeOffIsTakenUpWithEveryNameOnce) {
     EXPECT_EQ(2, SlowFolder::listings());
 }
 
+TEST_F(SlowTree, RowsOfAListingThatBrokeOffAreShownAgain) {
+    SlowFolder slow;
+    openHalf();
+    breakOff(slow);
+    m_tree.SelectItem(m_item);
+    m_tree.SendMessage(WM_KEYDOWN, VK_LEFT);
+    ASSERT_FALSE(expanded(m_item));
+    m_tree.SendMessage(WM_KEYDOWN, VK_RIGHT);
+    EXPECT_TRUE(expanded(m_item));
+    ASSERT_TRUE(TestHost::PumpUntil([] { return !SlowFolder::running(); }));
+    TestHost::Settle();
+    EXPECT_TRUE(expanded(m_item));
+    EXPECT_EQ(SlowFolder::kCount / 2u, childrenOf(m_item).size());
+}
+
+TEST_F(SlowTree, FolderPutThereDuringTheListingIsNotListedTwice) {
+    m_folder.folder(L"slow\\folder 7");
+    SlowFolder slow;
+    openHalf();
+    ASSERT_TRUE(m_tree.SetPathName(m_folder.path(L"slow\\folder 7").c_str()));
+    const HTREEITEM chosen = m_tree.GetSelectedItem();
+    EXPECT_STREQ(L"folder 7", m_tree.GetItemText(chosen));
+    slow.goOn();
+    ASSERT_TRUE(waitForAll());
+    TestHost::Settle();
+    EXPECT_EQ(all(), childrenOf(m_item));
+    EXPECT_EQ(chosen, m_tree.GetSelectedItem());
+}
+
 // A path that is selected while its parent cannot be listed is put there without it.
 TEST_F(SlowTree, FolderPutThereByASelectionIsNotListedTwice) {
     m_folder.folder(L"slow\\folder 7");
@@ -303,6 +534,63 @@ TEST_F(SlowTree, FolderPutThereByASelectionIsNotListedTwice) {
     EXPECT_EQ(all(), childrenOf(m_item));
     ASSERT_TRUE(m_tree.SetPathName(path.c_str()));
     EXPECT_EQ(chosen, m_tree.GetSelectedItem());
+}
+
+TEST_F(DirTree, FollowsASkinWithAnotherFont) {
+    const TempFolder skin;
+    skin.file(L"skin.txt", "font 13 ui latin 21 400 \"Arial\"\nfont 13 ui cjk 21 400 \"Arial\"\n");
+    CQVDirListCtrl list;
+    list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(20, 20, 200, 200), &m_host, 1);
+    list.SetFont(QV_GetSysFont(QVFONT_UI));
+    const HFONT former = *QV_GetSysFont(QVFONT_UI);
+    QV_SetSkinPath(skin.path().c_str());
+    const HFONT font = *QV_GetSysFont(QVFONT_UI);
+    ASSERT_NE(former, font);
+    for (const HWND wnd : {m_tree.m_hWnd, list.m_hWnd})
+        EXPECT_EQ(font, reinterpret_cast<HFONT>(SendMessageW(wnd, WM_GETFONT, 0, 0)));
+    QV_SetSkinPath(nullptr);
+    list.DestroyWindow();
+}
+
+// A list of the same slow folder.
+class SlowList : public SkinFixture {
+  protected:
+    void SetUp() override {
+        SkinFixture::SetUp();
+        ASSERT_TRUE(m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(10, 10, 390, 290), &m_host, 1));
+    }
+    void TearDown() override {
+        m_list.DestroyWindow();
+        SkinFixture::TearDown();
+    }
+
+    TestHost m_host;
+    CQVDirListCtrl m_list;
+    const TempFolder m_folder;
+};
+
+TEST_F(SlowList, ShowsWhatThereIsAndIsFilledInOrder) {
+    SlowFolder slow;
+    const ULONGLONG begin = GetTickCount64();
+    ASSERT_TRUE(m_list.SetPathName(m_folder.path(L"slow").c_str()));
+    EXPECT_LT(GetTickCount64() - begin, 1500u);
+    EXPECT_GE(m_list.GetItemCount(), 500);
+    EXPECT_TRUE(SlowFolder::running());
+    slow.goOn();
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return m_list.GetItemCount() == SlowFolder::kCount; }));
+    for (int i = 0; i < SlowFolder::kCount; ++i)
+        ASSERT_STREQ((L"folder " + std::to_wstring(i)).c_str(), m_list.GetItemText(i, 0));
+}
+
+TEST_F(SlowList, OtherFolderTakesThePlaceOfOneThatIsStillRead) {
+    m_folder.file(L"other\\a.txt", "x");
+    SlowFolder slow;
+    ASSERT_TRUE(m_list.SetPathName(m_folder.path(L"slow").c_str()));
+    ASSERT_TRUE(m_list.SetPathName(m_folder.path(L"other").c_str()));
+    slow.goOn();
+    ASSERT_TRUE(TestHost::PumpUntil([] { return !SlowFolder::running(); }));
+    TestHost::Settle();
+    EXPECT_EQ(1, m_list.GetItemCount());
 }
 
 } // namespace

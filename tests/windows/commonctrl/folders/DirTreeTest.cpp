@@ -237,4 +237,41 @@ TEST_F(DirList, IsWalkedByMouseAndKeyboard) {
     script.run([&] { m_host.Loop(); });
 }
 
+// A host that reads the row when it hears of the activation.
+class ReadingHost : public TestHost {
+  public:
+    explicit ReadingHost(CQVDirListCtrl& list) : m_list(list) {}
+    CString read;
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const LRESULT result = TestHost::WindowProc(message, wParam, lParam);
+        if (message == WM_NOTIFY &&
+            reinterpret_cast<NMHDR*>(lParam)->code == static_cast<UINT>(LVN_ITEMACTIVATE))
+            m_list.GetPathName(read, reinterpret_cast<NMITEMACTIVATE*>(lParam)->iItem);
+        return result;
+    }
+
+  private:
+    CQVDirListCtrl& m_list;
+};
+
+TEST_F(DirList, HostReadsTheRowThatWasActivated) {
+    const TempFolder folder;
+    folder.file(L"sub\\inner.txt", "x");
+    CQVDirListCtrl list;
+    ReadingHost host(list);
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(10, 10, 390, 290), &host, 1));
+    ASSERT_TRUE(list.SetPathName(folder.path().c_str()));
+    list.SetItemState(0, LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
+    NMITEMACTIVATE activate = {};
+    activate.hdr = {list, 1, static_cast<UINT>(LVN_ITEMACTIVATE)};
+    host.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&activate));
+    EXPECT_STREQ(folder.path(L"sub").c_str(), host.read);
+    CString shown;
+    EXPECT_TRUE(TestHost::PumpUntil(
+        [&] { return list.GetPathName(shown, -1) && shown == folder.path(L"sub").c_str(); }));
+    list.DestroyWindow();
+}
+
 } // namespace

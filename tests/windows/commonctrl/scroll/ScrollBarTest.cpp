@@ -353,6 +353,36 @@ TEST_F(ScrollBar, BothBarsMeetInACorner) {
     Picture::ofWindow(scrolled.host).save(qvtest::picturePath(L"scroll-corner"));
 }
 
+TEST_F(ScrollBar, CornerHasTheColourThatItsHostSays) {
+    Scrolled scrolled(Scrolled::ListBox, WS_HSCROLL);
+    SendMessageW(scrolled.wnd, LB_SETHORIZONTALEXTENT, 1000, 0);
+    ASSERT_TRUE(TestHost::PumpUntil([&] { return scrolled.Data().bHorz && scrolled.Data().bVert; }));
+    CRect window;
+    GetWindowRect(scrolled.wnd, window);
+    const CPoint corner(window.right - 4, window.bottom - 4);
+    const auto becomes = [corner](int index) {
+        return TestHost::PumpUntil([=] { return pixelAt(corner) == QV_GetSysColor(index); });
+    };
+    ASSERT_NE(QV_GetSysColor(QVCLR_LIST), QV_GetSysColor(QVCLR_SCROLL_TRACK));
+    EXPECT_TRUE(QV_SetReplaceCorner(scrolled.wnd, QVCLR_LIST));
+    EXPECT_TRUE(becomes(QVCLR_LIST));
+    QV_SetSkinPath(skinFolder(L"light").c_str());
+    EXPECT_TRUE(becomes(QVCLR_LIST));
+    EXPECT_TRUE(QV_SetReplaceCorner(scrolled.wnd, -1));
+    EXPECT_TRUE(becomes(QVCLR_SCROLL_TRACK));
+    QV_UnReplaceWnd(scrolled.wnd);
+    EXPECT_FALSE(QV_SetReplaceCorner(scrolled.wnd, QVCLR_LIST));
+    EXPECT_FALSE(QV_SetReplaceCorner(nullptr, QVCLR_LIST));
+}
+
+TEST_F(ScrollBar, OverlaysAnswerToNoControlIdOfAHost) {
+    Scrolled scrolled(Scrolled::ListBox, WS_HSCROLL);
+    const HWND host = scrolled.host;
+    EXPECT_EQ(scrolled.wnd, GetDlgItem(host, 5));
+    for (const int id : {0, -1, 1, 2, 0xFFFF})
+        EXPECT_EQ(nullptr, GetDlgItem(host, id)) << id;
+}
+
 TEST_F(ScrollBar, AppearsAndGoesWithTheContent) {
     Scrolled scrolled(Scrolled::ListView);
     EXPECT_TRUE(scrolled.Data().bVert);

@@ -46,8 +46,10 @@ class HostTree : public Paths {
 };
 
 TEST_F(HostTree, IsATreeControlInTheGivenPlace) {
-    constexpr DWORD kStyle = 0x50800023 | TVS_LINESATROOT;
-    EXPECT_EQ(kStyle, m_tree->GetStyle() & kStyle);
+    constexpr DWORD kStyle = 0x50800023;
+    constexpr DWORD kScrollStyles =
+        WS_VSCROLL | WS_HSCROLL | WS_CLIPSIBLINGS; // as the rows and the skinned bars ask
+    EXPECT_EQ(kStyle, m_tree->GetStyle() & ~kScrollStyles);
     EXPECT_EQ(0, m_tree->GetDlgCtrlID());
     EXPECT_EQ(m_host.m_hWnd, ::GetParent(m_tree->m_hWnd));
     CRect place;
