@@ -4,6 +4,7 @@ namespace qvtest {
 namespace {
 
 constexpr DWORD kPollMs = 5;
+constexpr DWORD kPumpPollMs = 10;
 constexpr DWORD kSettlePollMs = 1;
 constexpr Milliseconds kSettleLimit{3000};
 constexpr DWORD kForeignSettleMs = 20;
@@ -16,6 +17,25 @@ POINT toScreen(HWND window, POINT client) {
 }
 
 } // namespace
+
+void pumpMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+bool pumpUntil(const std::function<bool()>& condition, Milliseconds limit) {
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    do {
+        pumpMessages();
+        if (condition())
+            return true;
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, kPumpPollMs, QS_ALLINPUT);
+    } while (std::chrono::steady_clock::now() < deadline);
+    return condition();
+}
 
 bool Driver::loopEnded() const {
     return m_ended && WaitForSingleObject(m_ended, 0) == WAIT_OBJECT_0;

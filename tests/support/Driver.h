@@ -23,6 +23,12 @@ class StepFailure : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// Works off the calling thread's messages until nothing is left to do, painting included.
+void pumpMessages();
+
+// Works them off until the condition holds; false when the time passed.
+bool pumpUntil(const std::function<bool()>& condition, Milliseconds limit = Milliseconds(5000));
+
 class Driver {
   public:
     // For windows of any thread or process; waits are not cut short and onUi is not available.

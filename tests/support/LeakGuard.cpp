@@ -1,5 +1,7 @@
 #include "LeakGuard.h"
 
+#include "Watchdog.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -80,8 +82,10 @@ void LeakGuard::allowWhatIsLeftBy(const std::function<void()>& action) {
 namespace {
 
 void repeat(int runs, const std::function<void()>& action) {
-    for (int i = 0; i < runs; ++i)
+    for (int i = 1; i <= runs; ++i) {
+        Watchdog::begin("visit " + std::to_string(i) + " of " + std::to_string(runs));
         action();
+    }
 }
 
 bool isOnlyHandles(const std::string& left) {

@@ -1,5 +1,7 @@
 #include "ModalScript.h"
 
+#include "Watchdog.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -78,6 +80,9 @@ void ModalScript::begin() {
     m_failed = false;
     m_failure.clear();
     m_uiThread = GetCurrentThreadId();
+    const DWORD ownMeansMs = static_cast<DWORD>((kAfterLastStep + 4 * kEachMeans).count());
+    Watchdog::begin(toUtf8(currentTestName()),
+                    std::max(Watchdog::kLimitMs, static_cast<DWORD>(m_limit.count()) + ownMeansMs));
     m_windowsBefore.clear();
     for (HWND window : findWindows({.thread = m_uiThread, .visible = false}))
         m_windowsBefore.insert(window);
@@ -114,6 +119,7 @@ void ModalScript::runSteps() {
     try {
         for (const Step& it : m_steps) {
             running = it.what;
+            Watchdog::note("step '" + running + "'");
             it.action(driver);
         }
     } catch (const std::exception& problem) {

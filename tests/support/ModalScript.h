@@ -28,8 +28,10 @@ namespace qvtest {
 
 class ModalScript {
   public:
+    static constexpr Milliseconds kBodyLimit{30000};
+
     // limit: of the whole body
-    explicit ModalScript(Milliseconds limit = Milliseconds(30000)) : m_limit(limit) {}
+    explicit ModalScript(Milliseconds limit = kBodyLimit) : m_limit(limit) {}
     ModalScript(const ModalScript&) = delete;
     ModalScript& operator=(const ModalScript&) = delete;
     ~ModalScript();
@@ -94,6 +96,22 @@ class ModalScript {
     std::string m_failure;
     bool m_reportFailures = true;
 };
+
+// Runs a body with one step beside it: what the user does meanwhile.
+//
+//   EXPECT_EQ(IDOK, runBeside([&] { return dialog.DoModal(); }, [](Driver& user) { user.enter(); }));
+template <class Body>
+auto runBeside(Body&& body, std::function<void(Driver&)> act, Milliseconds limit = ModalScript::kBodyLimit) {
+    ModalScript script(limit);
+    script.step("use the window", std::move(act));
+    return script.run(std::forward<Body>(body));
+}
+
+// The same for a user who begins with the window that the body opens.
+template <class Body>
+auto runBeside(Body&& body, const WindowQuery& opened, const std::function<void(Driver&, HWND)>& act) {
+    return runBeside(std::forward<Body>(body), [&](Driver& user) { act(user, user.waitWindow(opened)); });
+}
 
 // Writes a picture of the whole screen, named after the running test; returns its path.
 std::wstring saveFailurePicture();

@@ -52,6 +52,15 @@ void TempFolder::settleDates() const {
     }
 }
 
+CurrentFolderKept::CurrentFolderKept() {
+    m_former.resize(GetCurrentDirectoryW(0, nullptr));
+    m_former.resize(GetCurrentDirectoryW(static_cast<DWORD>(m_former.size()), m_former.data()));
+}
+
+CurrentFolderKept::~CurrentFolderKept() {
+    SetCurrentDirectoryW(m_former.c_str());
+}
+
 std::string readFile(const std::wstring& path) {
     std::ifstream file(std::filesystem::path(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};

@@ -39,4 +39,17 @@ class TempFolder {
 // The bytes of a file; empty when it cannot be read.
 std::string readFile(const std::wstring& path);
 
+// Puts the current folder back. The system's file dialog leaves the one that it showed current, and a folder that is
+// current cannot be deleted: declare it behind the TempFolder.
+class CurrentFolderKept {
+  public:
+    CurrentFolderKept();
+    ~CurrentFolderKept();
+    CurrentFolderKept(const CurrentFolderKept&) = delete;
+    CurrentFolderKept& operator=(const CurrentFolderKept&) = delete;
+
+  private:
+    std::wstring m_former;
+};
+
 } // namespace qvtest

@@ -23,6 +23,8 @@ bool matches(HWND window, const WindowQuery& query) {
         return false;
     if (!query.className.empty() && !equalIgnoringCase(classOf(window), query.className))
         return false;
+    if (query.control != 0 && !GetDlgItem(window, query.control))
+        return false;
     if (query.title.empty() && query.titlePart.empty())
         return true;
     const std::wstring title = textOf(window);

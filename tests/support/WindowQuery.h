@@ -20,6 +20,7 @@ struct WindowQuery {
     DWORD process = GetCurrentProcessId(); // 0: any
     DWORD thread = 0;                      // 0: any
     bool visible = true;                   // false: hidden ones match as well
+    int control = 0;                       // it has a child of its own with this id; 0: any
 };
 
 // The topmost top-level window that matches, nullptr when there is none.

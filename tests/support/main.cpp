@@ -1,5 +1,6 @@
 // The entry of every test program.
 #include "ModalScript.h"
+#include "Watchdog.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,16 @@ class OpenWindowsCheck : public ::testing::EmptyTestEventListener {
     }
 };
 
+// Every test begins with its own time and with the pointer at the same place, away from the windows: a list that drops
+// under a pointer left behind selects the row there.
+class SameStart : public ::testing::EmptyTestEventListener {
+    void OnTestStart(const ::testing::TestInfo& test) override {
+        qvtest::Watchdog::begin(std::string(test.test_suite_name()) + "." + test.name());
+        qvtest::moveMouse({GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1});
+    }
+    void OnTestEnd(const ::testing::TestInfo&) override { qvtest::Watchdog::end(); }
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -31,6 +42,7 @@ int main(int argc, char** argv) {
     InitCommonControlsEx(&controls);
     ::testing::InitGoogleTest(&argc, argv);
     ::testing::UnitTest::GetInstance()->listeners().Append(new OpenWindowsCheck);
+    ::testing::UnitTest::GetInstance()->listeners().Append(new SameStart);
     const int result = RUN_ALL_TESTS();
     if (SUCCEEDED(com))
         CoUninitialize();

@@ -1,14 +1,11 @@
-// What the tests of the skinned controls share: modeless dialogs of the templates, the two skins, painted pixels.
+// What the tests of the skinned controls share: modeless dialogs of the templates.
 #pragma once
 
 #include "ControlIds.h"
 #include "Driver.h"
 #include "LeakGuard.h"
 #include "ModalScript.h"
-
-#include "QVCommonCtrl.h"
-
-#include <gtest/gtest.h>
+#include "SkinnedTest.h"
 
 namespace controls_test {
 
@@ -16,11 +13,9 @@ using namespace _qv_commonctrl;
 using qvtest::Driver;
 using qvtest::Picture;
 
-// Runs the message loop until nothing is left to do.
-void Pump();
-
-// The folder of a shipped skin: "dark" or "light".
-CString SkinFolder(const wchar_t* name);
+inline void Pump() {
+    qvtest::pumpMessages();
+}
 
 class TestDialog : public CQVDialog {
   public:
@@ -50,15 +45,6 @@ class TestDialog : public CQVDialog {
     UINT m_templateId;
 };
 
-class Controls : public ::testing::Test {
-  protected:
-    void SetUp() override;
-    void TearDown() override;
-
-    // The client area of a window as the screen shows it once all is painted.
-    static Picture Shot(HWND wnd);
-    static Picture WindowShot(HWND wnd);
-    static RECT All(const Picture& picture) { return {0, 0, picture.width(), picture.height()}; }
-};
+class Controls : public qvtest::SkinnedTest {};
 
 } // namespace controls_test

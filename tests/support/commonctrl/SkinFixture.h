@@ -1,19 +1,13 @@
-// Starts each test with the shipped dark skin and Chinese, whatever the test before has chosen.
+// Starts each test in Chinese.
 #pragma once
 
+#include "SkinnedTest.h"
 #include "StageFolder.h"
 #include "TestHost.h"
 
-#include <gtest/gtest.h>
-
-class SkinFixture : public testing::Test {
+class SkinFixture : public qvtest::SkinnedTest {
   protected:
-    void SetUp() override {
-        _qv_commonctrl::QV_SetSkinPath(nullptr);
-        _qv_commonctrl::QV_SetLanguagePath(nullptr);
-        _qv_commonctrl::QV_SetLanguage(L"zh-CN");
-    }
-    void TearDown() override { SetUp(); }
+    SkinFixture() : SkinnedTest(L"zh-CN") {}
 
     static std::wstring skinFolder(const wchar_t* name) { return stageFolder() + L"\\skin\\" + name; }
 };

@@ -21,25 +21,6 @@ void TestHost::Loop() {
     }
 }
 
-void TestHost::Settle() {
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-}
-
-bool TestHost::PumpUntil(const std::function<bool()>& condition) {
-    constexpr ULONGLONG kLimitMs = 5000;
-    for (const ULONGLONG end = ::GetTickCount64() + kLimitMs; ::GetTickCount64() < end;) {
-        Settle();
-        if (condition())
-            return true;
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-    }
-    return condition();
-}
-
 LRESULT TestHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_ERASEBKGND) {
         CRect client;

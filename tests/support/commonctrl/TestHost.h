@@ -1,6 +1,8 @@
 // A visible window of the framework for controls under test, with a loop that a ModalScript can stand beside.
 #pragma once
 
+#include "Driver.h"
+
 #include <QVCommonCtrl.h>
 
 #include <functional>
@@ -17,10 +19,8 @@ class TestHost : public CWnd {
     void Loop();
     void End() { m_ended = true, PostMessage(WM_NULL); }
 
-    // Works off messages until the condition holds; FALSE after 5 seconds.
-    static bool PumpUntil(const std::function<bool()>& condition);
-    // Works off what is there, painting included.
-    static void Settle();
+    static bool PumpUntil(const std::function<bool()>& condition) { return qvtest::pumpUntil(condition); }
+    static void Settle() { qvtest::pumpMessages(); }
 
     COLORREF ground = RGB(1, 2, 3); // no colour of a skin: what a control leaves unpainted is seen
 

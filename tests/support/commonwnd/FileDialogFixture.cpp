@@ -7,14 +7,8 @@ namespace filedialog_test {
 using namespace _qv_commonclass;
 
 void FileDialog::SetUp() {
+    SkinnedTest::SetUp();
     ASSERT_TRUE(QV_SetProfileRoot(L"Software\\QVCommonWndTest"));
-    m_formerFolder.resize(MAX_PATH);
-    m_formerFolder.resize(::GetCurrentDirectoryW(MAX_PATH, m_formerFolder.data()));
-}
-
-// The system dialog leaves the chosen folder current; a folder that is current cannot be deleted.
-void FileDialog::TearDown() {
-    ::SetCurrentDirectoryW(m_formerFolder.c_str());
 }
 
 std::unique_ptr<TestFileDialog> FileDialog::Make(Kind kind, const wchar_t* filter, DWORD flags, Names names,
@@ -75,9 +69,7 @@ void FileDialog::ChooseFilter(Driver& user, HWND frame, int index) {
 }
 
 INT_PTR FileDialog::Run(CQVFileDialog& dialog, const std::function<void(Driver&)>& act) {
-    ModalScript script(qvtest::Milliseconds(60000));
-    script.step("act on the dialog", act);
-    return script.run([&] { return dialog.DoModal(); });
+    return qvtest::runBeside([&] { return dialog.DoModal(); }, act, qvtest::Milliseconds(60000));
 }
 
 std::vector<std::wstring> FileDialog::Paths(CQVFileDialog& dialog) {

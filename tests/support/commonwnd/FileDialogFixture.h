@@ -4,11 +4,10 @@
 #include "QVCommonWnd.h"
 
 #include "ModalScript.h"
+#include "SkinnedTest.h"
 #include "TempFolder.h"
 
 #include <QVCommonClass.h>
-
-#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -56,10 +55,9 @@ class TestFileDialog : public CQVFileDialog {
 enum class Kind { Open, Save };
 enum class Names { Checked, Raw };
 
-class FileDialog : public testing::Test {
+class FileDialog : public qvtest::SkinnedTest {
   protected:
     void SetUp() override;
-    void TearDown() override;
 
     // A dialog that starts in the test's folder.
     std::unique_ptr<TestFileDialog> Make(Kind kind, const wchar_t* filter = L"AVI|*.avi|All|*.*|",
@@ -80,7 +78,7 @@ class FileDialog : public testing::Test {
     static std::vector<std::wstring> Paths(CQVFileDialog& dialog);
 
     TempFolder m_folder;
-    std::wstring m_formerFolder;
+    qvtest::CurrentFolderKept m_formerFolder;
 };
 
 // Lower case as the dialog gives it to saved paths.

@@ -2,6 +2,7 @@
 
 #include "ChildProcess.h"
 #include "ModalScript.h"
+#include "Watchdog.h"
 
 #include <gtest/gtest.h>
 
@@ -143,6 +144,16 @@ TEST(ModalScript, ADeadThreadEndsTheProgram) {
     EXPECT_TRUE(child.ended);
     EXPECT_EQ(ModalScript::kHungExitCode, child.exitCode) << child.output;
     EXPECT_NE(std::string::npos, child.output.find("cannot be ended")) << child.output;
+}
+
+TEST(Watchdog, EndsWhatHangsOutsideOfAScript) {
+    const ChildResult child =
+        runChild(programFolder() + L"\\windows_driver_probe.exe", L"--gtest_filter=*SleepsLong",
+                 {.folder = {}, .environment = {{L"QV_TEST_LIMIT_MS", L"300"}}});
+    EXPECT_TRUE(child.ended);
+    EXPECT_EQ(Watchdog::kExitCode, child.exitCode) << child.output;
+    for (const char* told : {"hangs: Probe.SleepsLong", "  thread ", "ntdll.dll+0x", "picture: "})
+        EXPECT_NE(std::string::npos, child.output.find(told)) << told << " in " << child.output;
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "SampleFiles.h"
 
+#include "Watchdog.h"
+
 #include <cstdlib>
 #include <sstream>
 
@@ -71,6 +73,7 @@ std::vector<std::wstring> GallerySession::values(const std::wstring& name) const
 }
 
 void GallerySession::open(const std::wstring& item) {
+    Watchdog::begin("entry " + toUtf8(item));
     int id = 0;
     for (const auto& button : values(L"button")) {
         const size_t space = button.find(L' ');

@@ -72,13 +72,8 @@ void PanelFrame::Stop() {
 }
 
 void Panels::SetUp() {
-    QV_SetSkinPath(nullptr);
-    ASSERT_TRUE(QV_SetLanguage(L"en-US"));
+    SkinnedTest::SetUp();
     ASSERT_NE(nullptr, m_frame.GetSafeHwnd());
-}
-
-void Panels::TearDown() {
-    QV_SetSkinPath(nullptr);
 }
 
 void Panels::Create(TestPsdPanel& panel) {
@@ -94,19 +89,6 @@ std::wstring Panels::Document(const std::wstring& name, const std::vector<std::u
     return m_folder.file(name, std::string(bytes.begin(), bytes.end()));
 }
 
-void Panels::Pump() {
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-}
-
-Picture Panels::Shot(HWND wnd) {
-    Pump();
-    return Picture::ofClient(wnd);
-}
-
 void Panels::expectNoLeak(const std::function<void()>& action) {
     constexpr int warmUpRuns = 10;
     constexpr int watchedRuns = 50;
@@ -120,11 +102,6 @@ void Panels::expectNoLeak(const std::function<void()>& action) {
     for (int i = 0; i < watchedRuns; ++i)
         once();
     guard.expectNothingLeft();
-}
-
-CString Panels::SkinFolder(const wchar_t* name) {
-    const CString current = QV_GetSkinPath();
-    return current.Left(current.ReverseFind(L'\\') + 1) + name;
 }
 
 } // namespace panels_test

@@ -6,12 +6,8 @@
 
 #include "LeakGuard.h"
 #include "ModalScript.h"
+#include "SkinnedTest.h"
 #include "TempFolder.h"
-
-#include <QVDict.h>
-#include <QVSkin.h>
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <ostream>
@@ -71,19 +67,15 @@ class PanelFrame : public CWnd {
     void Stop();
 };
 
-class Panels : public testing::Test {
+class Panels : public qvtest::SkinnedTest {
   protected:
     void SetUp() override;
-    void TearDown() override;
 
     // Makes the panel's window in the frame, 60 pixels high.
     void Create(TestPsdPanel& panel);
     // A document with these layers, the bottom one first; answers its path.
     std::wstring Document(const std::wstring& name, const std::vector<std::u16string>& layers) const;
-    // Handles messages until nothing is left to do.
-    static void Pump();
-    static Picture Shot(HWND wnd);
-    static CString SkinFolder(const wchar_t* name);
+    static void Pump() { qvtest::pumpMessages(); }
     // Without a message loop of the framework, nobody else drops the temporary objects that it makes on the way. The
     // heap is not looked at: the system's own combo box leaves blocks behind here.
     static void expectNoLeak(const std::function<void()>& action);

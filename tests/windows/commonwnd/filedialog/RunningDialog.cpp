@@ -22,29 +22,16 @@ bool TestDialog::ImportEnabled() const {
     return ::IsWindowEnabled(::GetDlgItem(m_wndForderImport.m_hWnd, kImportButton)) != FALSE;
 }
 
-void RunningDialog::SetUp() {
-    Panels::SetUp();
-    m_formerFolder.resize(MAX_PATH);
-    m_formerFolder.resize(::GetCurrentDirectoryW(MAX_PATH, m_formerFolder.data()));
-}
-
-// The system's dialog leaves the shown folder current; a folder that is current cannot be deleted.
-void RunningDialog::TearDown() {
-    ::SetCurrentDirectoryW(m_formerFolder.c_str());
-    Panels::TearDown();
-}
-
 INT_PTR RunningDialog::Run(TestDialog& dialog, const std::function<void(Driver&)>& act) {
-    ModalScript script(qvtest::Milliseconds(60000));
-    script.step("act on the dialog", [&](Driver& user) {
+    const auto actOnList = [&](Driver& user) {
         user.waitFor("the list of files", [&] {
             return dialog.m_hWnd && ::IsWindowVisible(dialog.Frame()) && dialog.List() &&
                    user.send(dialog.List(), LVM_GETITEMCOUNT) > 0;
         });
         user.settle();
         act(user);
-    });
-    return script.run([&] { return dialog.DoModal(); });
+    };
+    return qvtest::runBeside([&] { return dialog.DoModal(); }, actOnList, qvtest::Milliseconds(60000));
 }
 
 void RunningDialog::Select(Driver& user, TestDialog& dialog, const wchar_t* name) {

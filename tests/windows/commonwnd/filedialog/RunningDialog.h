@@ -24,9 +24,6 @@ class TestDialog : public CQVFileDialog {
 
 class RunningDialog : public Panels {
   protected:
-    void SetUp() override;
-    void TearDown() override;
-
     // Runs the dialog; the user acts on it once its list shows the folder.
     static INT_PTR Run(TestDialog& dialog, const std::function<void(Driver&)>& act);
     // Selects one item by its name; null: none.
@@ -35,7 +32,7 @@ class RunningDialog : public Panels {
     static void TabTo(Driver& user, TestDialog& dialog, HWND control);
 
   private:
-    std::wstring m_formerFolder;
+    qvtest::CurrentFolderKept m_formerFolder;
 };
 
 } // namespace panels_test

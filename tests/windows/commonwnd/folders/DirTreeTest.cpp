@@ -265,7 +265,7 @@ TEST_F(HostTree, IsSkinned) {
     ASSERT_TRUE(TestHost::PumpUntil([&] { return m_tree->GetChildItem(item) != nullptr; }));
     m_tree->SelectItem(m_tree->GetRootItem()); // a selection's text may be white
     for (const wchar_t* skin : {L"dark", L"light"}) {
-        ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin).c_str()));
+        ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin)));
         TestHost::Settle();
         const Picture picture = Picture::ofWindow(m_tree->m_hWnd);
         picture.save(qvtest::picturePath(std::wstring(L"hosttree-") + skin));

@@ -26,9 +26,7 @@ class MissingFiles : public Paths {
     static HWND List(HWND prompt) { return findControl(prompt, IDC_MISSINGFILES_LIST); }
 
     static INT_PTR Run(CQVFilePathShowTip& prompt, const std::function<void(Driver&, HWND)>& act) {
-        ModalScript script;
-        script.step("answer", [&](Driver& user) { act(user, Prompt(user)); });
-        return script.run([&] { return prompt.DoModal(); });
+        return qvtest::runBeside([&] { return prompt.DoModal(); }, {.title = L"Notice"}, act);
     }
 
     static INT_PTR Ask(const std::vector<CString>& files, const std::function<void(Driver&, HWND)>& act) {
@@ -254,7 +252,7 @@ TEST_F(MissingFiles, LongListScrollsByWheelAndKeys) {
 TEST_F(MissingFiles, IsSkinned) {
     const std::vector<CString> files(40, L"\\\\server\\media\\documentary\\harbour\\interview_day2_camB.mxf");
     for (const wchar_t* skin : {L"dark", L"light"}) {
-        ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin).c_str()));
+        ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin)));
         Ask(files, [&](Driver& user, HWND prompt) {
             user.settle();
             const Picture picture = Picture::ofWindow(prompt);

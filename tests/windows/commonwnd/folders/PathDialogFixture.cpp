@@ -6,24 +6,9 @@
 
 namespace pathdialog_test {
 
-void PathDialog::SetUp() {
-    ASSERT_TRUE(_qv_commonctrl::QV_SetLanguage(L"en-US"));
-    ASSERT_TRUE(_qv_commonctrl::QV_SetSkinPath(nullptr));
-}
-
-void PathDialog::TearDown() {
-    SetUp();
-}
-
 HWND PathDialog::Frame(Driver& user) {
-    HWND frame = nullptr;
-    user.waitFor("the folder chooser", [&] {
-        for (const HWND window : qvtest::findWindows({.className = L"#32770"})) {
-            if (::GetDlgItem(window, kNewFolder))
-                frame = window;
-        }
-        return frame != nullptr && Tree(frame) != nullptr;
-    });
+    const HWND frame = user.waitWindow({.className = L"#32770", .control = kNewFolder});
+    user.waitDescendant(frame, WC_TREEVIEWW);
     user.settle();
     return frame;
 }
@@ -72,11 +57,6 @@ POINT PathDialog::CloseCentre(HWND frame) {
     return {client.right - 16, 9};
 }
 
-std::wstring PathDialog::SkinFolder(const std::wstring& name) {
-    const std::wstring dark(_qv_commonctrl::QV_GetSkinPath());
-    return dark.substr(0, dark.rfind(L'\\')) + L"\\" + name;
-}
-
 namespace {
 
 LRESULT CALLBACK CancelWhenActive(int code, WPARAM wParam, LPARAM lParam) {
@@ -98,9 +78,7 @@ SelfCancel::~SelfCancel() {
 
 INT_PTR PathDialog::Run(CQVPathDialog& dialog, const std::function<void(Driver&, HWND)>& act) const {
     m_folder.settleDates();
-    ModalScript script;
-    script.step("act on the chooser", [&](Driver& user) { act(user, Frame(user)); });
-    return script.run([&] { return dialog.DoModal(); });
+    return qvtest::runBeside([&] { return dialog.DoModal(); }, [&](Driver& user) { act(user, Frame(user)); });
 }
 
 } // namespace pathdialog_test

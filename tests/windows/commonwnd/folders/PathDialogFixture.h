@@ -4,12 +4,8 @@
 #include "QVCommonWnd.h"
 
 #include "ModalScript.h"
+#include "SkinnedTest.h"
 #include "TempFolder.h"
-
-#include <QVDict.h>
-#include <QVSkin.h>
-
-#include <gtest/gtest.h>
 
 #include <string>
 
@@ -26,11 +22,8 @@ inline constexpr int kCancel = 2;
 inline constexpr int kTitle = 14146;
 inline constexpr int kNewFolder = 14150;
 
-class PathDialog : public testing::Test {
+class PathDialog : public qvtest::SkinnedTest {
   protected:
-    void SetUp() override;
-    void TearDown() override;
-
     // The chooser's window, shown and painted.
     static HWND Frame(Driver& user);
     static HWND Tree(HWND frame);
@@ -48,9 +41,6 @@ class PathDialog : public testing::Test {
 
     // The middle of the painted close button, client pixels.
     static POINT CloseCentre(HWND frame);
-
-    // Folder of a shipped skin.
-    static std::wstring SkinFolder(const std::wstring& name);
 
     TempFolder m_folder;
 };

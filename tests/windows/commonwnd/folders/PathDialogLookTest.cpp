@@ -161,7 +161,7 @@ class PathDialogIn : public PathDialog, public testing::WithParamInterface<LookR
 
 TEST_P(PathDialogIn, IsSkinnedAndTranslated) {
     ASSERT_TRUE(QV_SetLanguage(GetParam().language));
-    ASSERT_TRUE(QV_SetSkinPath(SkinFolder(GetParam().skin).c_str()));
+    ASSERT_TRUE(QV_SetSkinPath(SkinFolder(GetParam().skin)));
     for (int i = 0; i < 60; ++i)
         m_folder.folder(L"project\\" + std::to_wstring(i) +
                         L" 视频 takes of the harbour at sunrise, second camera");
@@ -211,7 +211,7 @@ TEST_F(PathDialog, SkinMayChangeWhileItIsOpen) {
         const HWND tree = Tree(frame);
         COLORREF ground = 0;
         user.onUi([&] {
-            QV_SetSkinPath(SkinFolder(L"light").c_str());
+            QV_SetSkinPath(SkinFolder(L"light"));
             ground = QV_GetSysColor(QVCLR_TREE);
         });
         EXPECT_EQ(static_cast<LRESULT>(ground), user.send(tree, TVM_GETBKCOLOR));

@@ -1,19 +1,16 @@
-// What the tests of the path windows share: an empty profile section, one language, the shipped dark skin.
+// What the tests of the path windows share: an empty profile section.
 #pragma once
 
 #include "QVCommonWnd.h"
 #include "res/ResourceIds.h"
 
 #include "ModalScript.h"
+#include "SkinnedTest.h"
 #include "StageFolder.h"
 #include "TempFolder.h"
 #include "TestHost.h"
 
 #include <QVCommonClass.h>
-#include <QVDict.h>
-#include <QVSkin.h>
-
-#include <gtest/gtest.h>
 
 namespace paths_test {
 
@@ -24,14 +21,17 @@ using qvtest::Driver;
 using qvtest::ModalScript;
 using qvtest::TempFolder;
 
-class Paths : public testing::Test {
+class Paths : public qvtest::SkinnedTest {
   protected:
     void SetUp() override {
+        SkinnedTest::SetUp();
         ASSERT_TRUE(QV_SetProfileRoot(L"Software\\QVCommonWndTest"));
         Reset();
-        ASSERT_TRUE(QV_SetLanguage(L"en-US"));
     }
-    void TearDown() override { Reset(); }
+    void TearDown() override {
+        Reset();
+        SkinnedTest::TearDown();
+    }
 
     static CString Stored(const wchar_t* key, const wchar_t* absent = L"(none)") {
         return QV_GetProfileString(L"PathSet", key, absent);
@@ -39,7 +39,6 @@ class Paths : public testing::Test {
     static void Store(const wchar_t* key, const CString& value) {
         ASSERT_TRUE(QV_WriteProfileString(L"PathSet", key, value));
     }
-    static std::wstring SkinFolder(const wchar_t* name) { return stageFolder() + L"\\skin\\" + name; }
 
     // A value such as a program gone wrong may leave in the profile.
     static std::vector<CString> BrokenValues() {
@@ -59,7 +58,6 @@ class Paths : public testing::Test {
     static void Reset() {
         QV_WriteProfileString(L"PathSet", nullptr, nullptr);
         QV_SetState(kStateResourceDirLocked, 0);
-        QV_SetSkinPath(nullptr);
     }
 };
 

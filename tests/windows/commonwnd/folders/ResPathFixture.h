@@ -27,9 +27,7 @@ class ResPath : public Paths {
     }
 
     static INT_PTR Run(CQVSetResPath& settings, const std::function<void(Driver&, HWND)>& act) {
-        ModalScript script;
-        script.step("act on the settings", [&](Driver& user) { act(user, Settings(user)); });
-        return script.run([&] { return settings.DoModal(); });
+        return qvtest::runBeside([&] { return settings.DoModal(); }, {.title = L"Select Path"}, act);
     }
 
     // Waits for the complaint about bad folders, answers it and returns its text.
@@ -45,14 +43,8 @@ class ResPath : public Paths {
     // Waits for the folder chooser that a browse button opens.
     static HWND Chooser(Driver& user) {
         constexpr int kNewFolder = 14150;
-        HWND chooser = nullptr;
-        user.waitFor("the folder chooser", [&] {
-            for (const HWND window : qvtest::findWindows({.className = L"#32770"})) {
-                if (::GetDlgItem(window, kNewFolder))
-                    chooser = window;
-            }
-            return chooser && qvtest::findDescendant(chooser, WC_TREEVIEWW);
-        });
+        const HWND chooser = user.waitWindow({.className = L"#32770", .control = kNewFolder});
+        user.waitDescendant(chooser, WC_TREEVIEWW);
         user.settle();
         return chooser;
     }

@@ -221,7 +221,7 @@ TEST_F(ResPath, StoredNonsenseIsHarmless) {
 TEST_F(ResPath, IsSkinnedInBothLanguages) {
     for (const wchar_t* skin : {L"dark", L"light"}) {
         for (const wchar_t* language : {L"en-US", L"zh-CN"}) {
-            ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin).c_str()));
+            ASSERT_TRUE(QV_SetSkinPath(SkinFolder(skin)));
             ASSERT_TRUE(QV_SetLanguage(language));
             const CString title = QV_LoadSysString(L"IDS_COMMON_SELECTPATH");
             CQVSetResPath settings;

@@ -95,9 +95,7 @@ TEST_F(QuestionBox, RestWithoutRememberedAnswerIsZeroToo) {
 UINT ShowOwn(CQVXMessageBox& box, const std::function<void(Driver&, HWND)>& act, INT_PTR expectedEnd = IDOK) {
     box.m_strCaption = kTitle;
     box.m_strText = L"Host's question";
-    ModalScript script;
-    script.step("act", [&](Driver& user) { act(user, user.waitWindow({.title = kTitle})); });
-    EXPECT_EQ(expectedEnd, script.run([&] { return box.DoModal(); }));
+    EXPECT_EQ(expectedEnd, qvtest::runBeside([&] { return box.DoModal(); }, {.title = kTitle}, act));
     return box.m_nResult;
 }
 

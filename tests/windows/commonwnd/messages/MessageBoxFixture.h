@@ -1,14 +1,11 @@
-// What the tests of the message box share: one language, no remembered answer, the box found by its title.
+// What the tests of the message box share: no remembered answer, the box found by its title.
 #pragma once
 
 #include "QVCommonWnd.h"
 #include "res/ResourceIds.h"
 
 #include "ModalScript.h"
-
-#include <QVDict.h>
-
-#include <gtest/gtest.h>
+#include "SkinnedTest.h"
 
 namespace messagebox_test {
 
@@ -18,22 +15,22 @@ using qvtest::ModalScript;
 
 inline constexpr wchar_t kTitle[] = L"Question of the test";
 
-class QuestionBox : public testing::Test {
+class QuestionBox : public qvtest::SkinnedTest {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(_qv_commonctrl::QV_SetLanguage(L"en-US"));
+        SkinnedTest::SetUp();
         QV_MessageRest();
     }
-    void TearDown() override { QV_MessageRest(); }
-
-    static HWND Box(Driver& user) { return user.waitWindow({.title = kTitle}); }
+    void TearDown() override {
+        QV_MessageRest();
+        SkinnedTest::TearDown();
+    }
 
     // Shows a box by QV_MessageBox, lets the user act on it and returns the answer.
     static UINT Ask(const std::function<void(Driver&, HWND)>& act, const CString& text = L"Go on?",
                     UINT type = 0, CWnd* parent = nullptr) {
-        ModalScript script;
-        script.step("act on the box", [&](Driver& user) { act(user, Box(user)); });
-        return script.run([&] { return QV_MessageBox(kTitle, text, type, parent); });
+        return qvtest::runBeside([&] { return QV_MessageBox(kTitle, text, type, parent); }, {.title = kTitle},
+                                 act);
     }
 
     // Expects an answer without any box.

@@ -6,10 +6,7 @@
 
 #include "LeakGuard.h"
 #include "ModalScript.h"
-
-#include <QVDict.h>
-
-#include <gtest/gtest.h>
+#include "SkinnedTest.h"
 
 #include <climits>
 #include <cmath>
@@ -27,24 +24,26 @@ using qvtest::textOf;
 
 using Act = std::function<void(Driver&, HWND)>;
 
-class Progress : public testing::Test {
+class Progress : public qvtest::SkinnedTest {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(_qv_commonctrl::QV_SetLanguage(L"en-US"));
+        SkinnedTest::SetUp();
         CZ5ProgressDlg::EndProgressWnd(0);
         CZ5ProgressDlg::SetCurPos(0, 0);
         wchar_t none[] = L"";
         CZ5ProgressDlg::SetTextShow(none);
     }
-    void TearDown() override { CZ5ProgressDlg::EndProgressWnd(0); }
+    void TearDown() override {
+        CZ5ProgressDlg::EndProgressWnd(0);
+        SkinnedTest::TearDown();
+    }
 
     // Shows the window and acts on it; the action ends it.
     static void Run(const wchar_t* title, int range, float step, const Act& act) {
         CZ5ProgressDlg::EndProgressWnd(0);
-        ModalScript script;
-        script.step("watch the window",
-                    [&](Driver& user) { act(user, user.waitWindow({.className = L"#32770"})); });
-        script.run([&] { CZ5ProgressDlg::ProgressWndDoModle(const_cast<wchar_t*>(title), range, step); });
+        qvtest::runBeside(
+            [&] { CZ5ProgressDlg::ProgressWndDoModle(const_cast<wchar_t*>(title), range, step); },
+            {.className = L"#32770"}, act);
     }
 
     static int Bar(Driver& user, HWND window) {

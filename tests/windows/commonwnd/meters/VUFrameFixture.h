@@ -5,12 +5,7 @@
 
 #include "LeakGuard.h"
 #include "ModalScript.h"
-#include "Picture.h"
-
-#include <QVDict.h>
-#include <QVSkin.h>
-
-#include <gtest/gtest.h>
+#include "SkinnedTest.h"
 
 #include <climits>
 #include <memory>
@@ -47,11 +42,9 @@ class TestFrame : public CQVVUFrame {
     }
 };
 
-class VUFrame : public testing::Test {
+class VUFrame : public qvtest::SkinnedTest {
   protected:
     using Meter = _qv_extractrl::CQVVUTableCtrl;
-
-    void SetUp() override { ASSERT_TRUE(QV_SetLanguage(L"en-US")); }
 
     // Meters and buttons from left to right; only those that are shown.
     template <class Control> static std::vector<Control*> Shown(const CWnd& frame) {

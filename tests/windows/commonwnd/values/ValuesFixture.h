@@ -1,4 +1,4 @@
-// What the tests of the dialogs for one value share: one language, and a user who works the dialog while it runs.
+// What the tests of the dialogs for one value share: a user who works the dialog while it runs.
 #pragma once
 
 #include "QVCommonWnd.h"
@@ -6,10 +6,7 @@
 
 #include "LeakGuard.h"
 #include "ModalScript.h"
-
-#include <QVDict.h>
-
-#include <gtest/gtest.h>
+#include "SkinnedTest.h"
 
 #include <functional>
 #include <string>
@@ -25,20 +22,15 @@ using Act = std::function<void(Driver&, HWND)>;
 
 inline constexpr int kLifeRuns = 200;
 
-class Values : public testing::Test {
+class Values : public qvtest::SkinnedTest {
   protected:
-    void SetUp() override { ASSERT_TRUE(_qv_commonctrl::QV_SetLanguage(L"en-US")); }
-
     // Runs the dialog while the user acts on it; returns its end code.
     template <class Dialog> static INT_PTR Use(Dialog& dialog, const Act& act) {
         return Run([&dialog] { return dialog.DoModal(); }, act);
     }
 
     static INT_PTR Run(const std::function<INT_PTR()>& body, const Act& act) {
-        ModalScript script;
-        script.step("use the dialog",
-                    [&](Driver& user) { act(user, user.waitWindow({.className = L"#32770"})); });
-        return script.run(body);
+        return qvtest::runBeside(body, {.className = L"#32770"}, act);
     }
 
     // Runs a dialog without input: the action is done inside its modal loop, on its thread, once the dialog stands on

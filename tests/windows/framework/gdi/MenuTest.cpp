@@ -179,9 +179,14 @@ TEST(ImageList, HoldsAndDrawsImages) {
     int width = 0, height = 0;
     EXPECT_TRUE(list.GetIconSize(&width, &height));
     EXPECT_EQ(16, width);
-    IMAGEINFO info = {};
-    EXPECT_TRUE(list.GetImageInfo(1, &info));
-    EXPECT_TRUE(CRect(info.rcImage) == CRect(16, 0, 32, 16) || CRect(info.rcImage).Size() == CSize(16, 16));
+    IMAGEINFO first = {};
+    IMAGEINFO second = {};
+    EXPECT_TRUE(list.GetImageInfo(0, &first));
+    EXPECT_TRUE(list.GetImageInfo(1, &second));
+    EXPECT_EQ(CSize(16, 16), CRect(second.rcImage).Size());
+    RECT shared = {};
+    EXPECT_FALSE(
+        ::IntersectRect(&shared, &first.rcImage, &second.rcImage)); // beside or below, as the system likes
     HICON const icon = list.ExtractIcon(0);
     EXPECT_NE(nullptr, icon);
     EXPECT_EQ(2, list.Add(icon));
