@@ -61,8 +61,11 @@ int FrameGrowth(UINT dpi) {
     return Px(kFrameGrowthPx, dpi);
 }
 
-int MissingHeight(int clientHeight, int importPanelBottom, UINT dpi) {
-    return std::max(0, importPanelBottom + Px(kBelowImportPx, dpi) - clientHeight);
+int MissingHeight(CSize client, int importPanelBottom, CSize advance, UINT dpi) {
+    const bool isBelow = advance.cy > 0 && advance.cx >= client.cx;
+    const int below =
+        isBelow ? Px(kImportGapPx, dpi) + advance.cy + Px(kAdvanceBottomPx, dpi) : Px(kBelowImportPx, dpi);
+    return std::max(0, importPanelBottom + below - static_cast<int>(client.cy));
 }
 
 CRect PlaceAdvanceWindow(CSize client, CSize advance, DWORD options, std::optional<int> importPanelBottom,

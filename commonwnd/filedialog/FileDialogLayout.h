@@ -30,8 +30,9 @@ CRect ImportPanelBelow(const CRect& cancel, UINT dpi);
 int FrameGrowth(UINT dpi);
 
 // How much taller the client area must be for the folder import panel below Cancel to be seen whole: the system may
-// have made its dialog lower after the panel was placed. 0 when it is high enough.
-int MissingHeight(int clientHeight, int importPanelBottom, UINT dpi);
+// have made its dialog lower after the panel was placed, and a docked window as wide as the client area begins below
+// the panel. `advance`: the host's window, (0, 0) for none. 0 when it is high enough.
+int MissingHeight(CSize client, int importPanelBottom, CSize advance, UINT dpi);
 
 // The host's window in a frame whose client area has the size `client`. `importPanelBottom`: lower edge of the
 // folder import panel; none when there is no panel. The height is never negative.

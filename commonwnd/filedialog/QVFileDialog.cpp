@@ -17,6 +17,10 @@
 
 #include <QVSkin.h>
 
+#include <shlwapi.h>
+
+#include <algorithm>
+
 namespace _qv_commonwnd {
 
 using namespace _qv_commonctrl;
@@ -55,6 +59,7 @@ class CQVFileDialog::CRun {
         : m_dialog(dialog), m_listSkin(*dialog.m_pListView, dialog.m_header) {}
 
     void UseMultiSelectBuffer();
+    INT_PTR RunSystemDialog();
 
     HWND Frame() const { return m_dialog.m_hWnd ? ::GetParent(m_dialog.m_hWnd) : nullptr; }
 
@@ -63,8 +68,9 @@ class CQVFileDialog::CRun {
 
     void OnInitDone();
     void OnSelectionChange();
-    void OnFolderChange();
+    bool OnFolderChange();
     void OnTypeChange();
+    void OnNameAccepted();
 
     bool ChangesNames() const { return !m_dialog.m_bOpenFileDialog && !m_dialog.m_bRawNames; }
     std::vector<std::wstring> FilterPatternList() const;
@@ -87,18 +93,28 @@ class CQVFileDialog::CRun {
     void FitFrame();
     void TellDockedWnd(QVFileSelChange what, LPARAM detail) const;
 
-    void TakeView(HWND view);
+    void NoteSkinnedList();
     HWND ShownList() const;
 
     void ForgetSelection();
     void OnNothingSelected();
     void OnOneSelected(HWND list);
     void OnFileSelected(const CString& path);
-    void OnFolderSelected(const SelectedItem& item, HWND list);
+    void OnFolderSelected(const SelectedItem& item);
     void OnSeveralSelected(HWND list, int count);
+    void WriteFolderName(const CString& name);
+    void TakeFolderNameBack();
+
+    CString FilterExtension(DWORD filterIndex) const;
+    void DropCompletion();
 
     CQVFileDialog& m_dialog;
     std::unique_ptr<wchar_t[]> m_multiSelectBuffer;
+    bool m_givesExtension = false; // the host has given none
+    CString m_firstExtension;      // the system keeps the address of its text as long as the dialog runs
+    CString m_defaultExtension;    // of the current type: what the system completes a name with
+    std::size_t m_completion = 0;  // units that it has put behind the accepted name
+    CString m_folderName;   // what was written into the name field for a selected folder; empty: nothing
     CWnd m_listHolder;      // the shell list's placeholder
     CViewBar m_viewBar;     // folder up, new folder, kinds of view
     CQVButton m_helpButton; // shown to hosts that ask for it only
@@ -138,10 +154,12 @@ CQVFileDialog::CQVFileDialog(int bOpenFileDialog, const wchar_t* lpszDefExt, con
 }
 
 void CQVFileDialog::CRun::UseMultiSelectBuffer() {
-    m_multiSelectBuffer = std::make_unique<wchar_t[]>(kMultiSelectChars);
-    m_dialog.m_ofn.lpstrFile = m_multiSelectBuffer.get();
-    m_dialog.m_ofn.nMaxFile = kMultiSelectChars;
-    m_dialog.m_ofn.lStructSize = sizeof(OPENFILENAMEW);
+    OPENFILENAMEW& ofn = m_dialog.m_ofn;
+    if (!m_multiSelectBuffer)
+        m_multiSelectBuffer = std::make_unique<wchar_t[]>(kMultiSelectChars);
+    ofn.lpstrFile = m_multiSelectBuffer.get();
+    ofn.nMaxFile = kMultiSelectChars;
+    ofn.lStructSize = sizeof(OPENFILENAMEW);
 }
 
 void CQVFileDialog::SetPreviewMode(int nMode) {
@@ -171,7 +189,63 @@ INT_PTR CQVFileDialog::DoModal() {
     m_strSelPath.Empty();
     m_strSelFormat.Empty();
     TestTempFilePath();
-    return CFileDialog::DoModal();
+    return m_pRun->RunSystemDialog();
+}
+
+// What the run gives the system beside the host's own wishes is taken out again: the host may run the object once more.
+INT_PTR CQVFileDialog::CRun::RunSystemDialog() {
+    OPENFILENAMEW& ofn = m_dialog.m_ofn;
+    if (ofn.Flags & OFN_ALLOWMULTISELECT) {
+        const LPWSTR hostBuffer = ofn.lpstrFile;
+        const DWORD hostChars = std::min(ofn.nMaxFile, kMultiSelectChars);
+        UseMultiSelectBuffer();
+        if (hostBuffer && hostBuffer != ofn.lpstrFile) // the name to start with
+            ::lstrcpynW(ofn.lpstrFile, hostBuffer, static_cast<int>(hostChars));
+    }
+    const LPCWSTR hostFolder = ofn.lpstrInitialDir;
+    const LPCWSTR hostExtension = ofn.lpstrDefExt;
+    const CString folder = RememberedFolder();
+    if (!hostFolder && !folder.IsEmpty() &&
+        !(ofn.lpstrFile && ::PathFindFileNameW(ofn.lpstrFile) != ofn.lpstrFile))
+        ofn.lpstrInitialDir = folder;
+    m_givesExtension = ChangesNames() && !hostExtension;
+    if (m_givesExtension) {
+        m_firstExtension = m_defaultExtension = FilterExtension(std::max<DWORD>(ofn.nFilterIndex, 1));
+        ofn.lpstrDefExt = m_firstExtension.IsEmpty() ? nullptr : m_firstExtension.GetString();
+    }
+    m_completion = 0;
+    const INT_PTR answer = m_dialog.CFileDialog::DoModal();
+    if (answer == IDOK)
+        DropCompletion();
+    ofn.lpstrInitialDir = hostFolder;
+    ofn.lpstrDefExt = hostExtension;
+    return answer;
+}
+
+// Without dot; empty when the filter's first pattern has none that could be one of a file.
+CString CQVFileDialog::CRun::FilterExtension(DWORD filterIndex) const {
+    const std::vector<std::wstring> patterns = FilterPatternList();
+    const FilterChoice choice{patterns, filterIndex};
+    const std::wstring* const pattern = choice.Pattern();
+    const auto first = pattern ? FirstAlternative(*pattern) : std::nullopt;
+    const std::size_t dot = first ? first->find(L'.') : std::wstring_view::npos;
+    if (dot == std::wstring_view::npos)
+        return CString();
+    const std::wstring_view extension = first->substr(dot + 1);
+    return extension.find_first_of(L"*?") == std::wstring_view::npos ? TextOf(extension) : CString();
+}
+
+// The accessors complete the name themselves: they are given the one that was typed.
+void CQVFileDialog::CRun::DropCompletion() {
+    OPENFILENAMEW& ofn = m_dialog.m_ofn;
+    if (m_completion == 0)
+        return;
+    for (const LPWSTR name : {ofn.lpstrFile, ofn.lpstrFileTitle}) {
+        const std::size_t length = name ? ::wcslen(name) : 0;
+        if (length > m_completion)
+            name[length - m_completion] = L'\0';
+    }
+    ofn.nFileExtension = 0;
 }
 
 void CQVFileDialog::TestTempFilePath() {
@@ -217,7 +291,12 @@ void CQVFileDialog::CRun::TakeFrame() {
     if (!frame.TakeOver(Frame()))
         return;
     frame.SetEndAction([this] { Release(); });
-    frame.SetNewViewAction([this](HWND view) { TakeView(view); });
+    // Before the system tells of the folder: a list that was shown before it is skinned would flash up white, and be
+    // painted twice.
+    frame.SetNewViewAction([this](HWND view) {
+        m_listSkin.TakeOver(view);
+        NoteSkinnedList();
+    });
     m_listSkin.SetSelectionAction([this] { OnSelectionChange(); });
 }
 
@@ -231,9 +310,10 @@ void CQVFileDialog::CRun::TakeControls() {
     take(d.m_btnOK, kOpenButtonId, font);
     take(d.m_btnCancel, kCancelButtonId, font);
     take(d.m_stcFileName, kFileNameLabelId, font);
-    d.m_stcFileName.SetBkColorIndex(QVCLR_WINDOW);
     take(d.m_stcFileType, kFileTypeLabelId, font);
     take(d.m_stcLookIn, kLookInLabelId, font);
+    for (CQVStatic* const label : {&d.m_stcFileName, &d.m_stcFileType, &d.m_stcLookIn})
+        label->SetBkColorIndex(QVCLR_WINDOW); // the frame's ground, on which they stand
     take(d.m_cmbFileType, kFileTypeComboId, font);
     if (d.m_cmbFileType.m_hWnd) {
         d.m_cmbFileType.ModifyStyle(0, kClipping);
@@ -337,24 +417,26 @@ void CQVFileDialog::CRun::ShowPsdPanel(bool show) {
 
 // ---- Notifications.
 
+// The base's own answers would undo ours: the framework's first one centres the dialog over its owner.
 BOOL CQVFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     switch (reinterpret_cast<const NMHDR*>(lParam)->code) {
     case CDN_INITDONE:
         m_pRun->OnInitDone();
-        break;
+        return TRUE;
     case CDN_SELCHANGE:
         m_pRun->OnSelectionChange();
-        break;
+        return TRUE;
     case CDN_FOLDERCHANGE:
-        m_pRun->OnFolderChange();
-        break;
+        return m_pRun->OnFolderChange() || CFileDialog::OnNotify(wParam, lParam, pResult);
     case CDN_TYPECHANGE:
         m_pRun->OnTypeChange();
-        break;
+        return TRUE;
+    case CDN_FILEOK:
+        m_pRun->OnNameAccepted();
+        return CFileDialog::OnNotify(wParam, lParam, pResult);
     default:
-        break;
+        return CFileDialog::OnNotify(wParam, lParam, pResult);
     }
-    return CFileDialog::OnNotify(wParam, lParam, pResult);
 }
 
 void CQVFileDialog::CRun::OnInitDone() {
@@ -374,7 +456,8 @@ void CQVFileDialog::CRun::OnInitDone() {
 void CQVFileDialog::CRun::FitFrame() {
     const bool isBelowCancel = PlanOpenButton(m_dialog.m_dwOption) == OpenButtonPlace::Widened;
     if (m_dialog.m_wndForderImport.m_hWnd && isBelowCancel)
-        GrowFrame(Frame(), MissingHeight(FrameClient().Height(), ImportPanelBottom(), Dpi()));
+        GrowFrame(Frame(),
+                  MissingHeight(FrameClient().Size(), ImportPanelBottom(), m_dialog.m_szAdvance, Dpi()));
     if (HasDockedWnd())
         PlaceDockedWnd();
 }
@@ -385,18 +468,18 @@ void CQVFileDialog::CRun::ForgetSelection() {
     m_dialog.m_wndForderImport.EnableImport(FALSE);
 }
 
-void CQVFileDialog::CRun::OnFolderChange() {
+// False: the base is to answer, too.
+bool CQVFileDialog::CRun::OnFolderChange() {
     m_dialog.m_btnOK.Invalidate();
     m_folder.Forget();
     ForgetSelection();
-    if (const HWND view = ShellViewOf(Frame()))
-        TakeView(view);
+    TakeFolderNameBack();
+    const bool isAnswered = m_listSkin.OnFolderShown(ShellViewOf(Frame()));
+    NoteSkinnedList();
+    return isAnswered;
 }
 
-// Also when the frame gets a view, which is before the system tells of the folder: a list that was shown before it is
-// skinned would flash up white, and be painted twice.
-void CQVFileDialog::CRun::TakeView(HWND view) {
-    m_listSkin.TakeOver(view);
+void CQVFileDialog::CRun::NoteSkinnedList() {
     m_dialog.m_pSkinnedList = m_listSkin.List() ? m_dialog.m_pListView : nullptr;
 }
 
@@ -405,6 +488,12 @@ void CQVFileDialog::CRun::OnTypeChange() {
     if (const HWND view = ShellViewOf(Frame()))
         ::InvalidateRect(view, nullptr, TRUE);
     TellDockedWnd(FILESEL_ATTACHED, reinterpret_cast<LPARAM>(&m_dialog));
+    // What the system was given at the start is changed like the host's own would be; ours alone. The system then asks
+    // about the file that will be written, and not about the name as it was typed.
+    if (m_givesExtension) {
+        m_defaultExtension = FilterExtension(m_dialog.m_ofn.nFilterIndex);
+        m_dialog.SetDefExt(m_defaultExtension);
+    }
 }
 
 // The list that is skinned needs no search.
@@ -427,12 +516,13 @@ void CQVFileDialog::CRun::OnSelectionChange() {
 
 void CQVFileDialog::CRun::OnNothingSelected() {
     ForgetSelection();
+    TakeFolderNameBack();
     ShowPsdPanel(false);
     TellDockedWnd(FILESEL_ONE, 0);
 }
 
 void CQVFileDialog::CRun::OnOneSelected(HWND list) {
-    const SelectedItem item = FindSelectedItem(m_dialog, m_folder, list, SelectionCount::One);
+    const SelectedItem item = FindSelectedItem(m_dialog, m_folder, list);
     m_dialog.m_strSelPath.Empty();
     switch (item.kind) {
     case SelectedKind::Missing:
@@ -443,13 +533,14 @@ void CQVFileDialog::CRun::OnOneSelected(HWND list) {
         OnFileSelected(item.path);
         break;
     case SelectedKind::Folder:
-        OnFolderSelected(item, list);
+        OnFolderSelected(item);
         break;
     }
     m_dialog.m_wndForderImport.EnableImport(item.isFolder);
 }
 
 void CQVFileDialog::CRun::OnFileSelected(const CString& path) {
+    m_folderName.Empty(); // the system has written the file's
     const BOOL isPsd = m_dialog.IsShowPsdOption(path);
     if (isPsd)
         m_dialog.m_wndPsdOption.ReadPsdFile(path);
@@ -459,25 +550,57 @@ void CQVFileDialog::CRun::OnFileSelected(const CString& path) {
     TellDockedWnd(FILESEL_ONE, reinterpret_cast<LPARAM>(path.GetString()));
 }
 
-void CQVFileDialog::CRun::OnFolderSelected(const SelectedItem& item, HWND list) {
+void CQVFileDialog::CRun::OnFolderSelected(const SelectedItem& item) {
     if (!m_dialog.IsShowPsdOption(item.path))
         ShowPsdPanel(false);
     if (m_dialog.m_dwOption & FDO_IMPORTFOLDER)
-        m_dialog.SetControlText(kFileNameComboId, item.name.IsEmpty() ? FirstSelectedText(list) : item.name);
+        WriteFolderName(item.name);
     m_dialog.m_strSelPath = item.path;
     TellDockedWnd(FILESEL_ONE, reinterpret_cast<LPARAM>(item.path.GetString()));
+}
+
+void CQVFileDialog::CRun::WriteFolderName(const CString& name) {
+    m_dialog.SetControlText(kFileNameComboId, name);
+    m_folderName = name;
+}
+
+// In another folder the name would be that of a file which is not there. What the user has typed meanwhile stays.
+void CQVFileDialog::CRun::TakeFolderNameBack() {
+    CString written;
+    if (m_dialog.m_cmbFileName.m_hWnd)
+        m_dialog.m_cmbFileName.GetWindowText(written);
+    if (!m_folderName.IsEmpty() && written == m_folderName)
+        m_dialog.SetControlText(kFileNameComboId, L"");
+    m_folderName.Empty();
 }
 
 // The system tells of every single item while many are being selected: without a window to be told nothing is
 // looked up.
 void CQVFileDialog::CRun::OnSeveralSelected(HWND list, int count) {
     ForgetSelection();
+    TakeFolderNameBack();
     if (!HasDockedWnd())
         return;
-    const SelectedItem item = FindSelectedItem(m_dialog, m_folder, list, SelectionCount::Several);
+    const SelectedItem item = FindSelectedItem(m_dialog, m_folder, list);
     if (item.kind == SelectedKind::File && !item.isFolder)
         TellDockedWnd(FILESEL_ONE, reinterpret_cast<LPARAM>(item.path.GetString()));
     TellDockedWnd(FILESEL_SEVERAL, reinterpret_cast<LPARAM>(&count));
+}
+
+// Compares what was typed with what the system has made of it. A system that takes no change of the extension completes
+// with the first one where the type has none.
+void CQVFileDialog::CRun::OnNameAccepted() {
+    CString typed;
+    m_completion = 0;
+    if (!m_givesExtension || !m_dialog.m_cmbFileName.m_hWnd)
+        return;
+    m_dialog.m_cmbFileName.GetWindowText(typed);
+    typed.Trim(L"\" ");
+    const CString name = ::PathFindFileNameW(typed);
+    const CString accepted = ::PathFindFileNameW(m_dialog.m_ofn.lpstrFile);
+    for (const CString* const extension : {&m_defaultExtension, &m_firstExtension})
+        if (!extension->IsEmpty() && accepted.CompareNoCase(name + L"." + *extension) == 0)
+            m_completion = static_cast<std::size_t>(extension->GetLength()) + 1; // the dot's
 }
 
 BOOL CQVFileDialog::OnFileNameOK() {

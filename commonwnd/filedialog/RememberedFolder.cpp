@@ -25,4 +25,13 @@ void RepairRememberedFolder() {
     item.Close();
 }
 
+CString RememberedFolder() {
+    _qv_commonclass::CZ5Regkey item;
+    CString folder;
+    if (!item.OpenItem(kFolderItem, FALSE) || !item.GetValue(kFolderValue, folder) ||
+        !PathIsDirectoryW(folder))
+        return CString();
+    return folder;
+}
+
 } // namespace _qv_commonwnd

@@ -2,22 +2,23 @@
 
 #include "ShellItems.h"
 
-#include <commdlg.h>
-
 #include <algorithm>
 
 namespace _qv_commonwnd {
 
 namespace {
 
-constexpr int kDeepestListed =
-    1; // the desktop's and the computer's folders; others lie on the way to the one in view
+// The desktop's and the computer's folders are listed; others lie on the way to the one in view.
+constexpr int kDeepestListed = 1;
+constexpr DWORD kFolders = SHCONTF_FOLDERS | SHCONTF_INCLUDEHIDDEN;
 
 int CALLBACK NoteTextLeft(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM data) {
     if (record->iType != EMR_EXTTEXTOUTW && record->iType != EMR_EXTTEXTOUTA)
         return TRUE;
-    // Both records begin alike; only the place is read.
+    // Both records begin alike; only the place and the number of characters are read.
     const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
+    if (text->emrtext.nChars == 0) // the ground is filled
+        return TRUE;
     *reinterpret_cast<int*>(data) = text->emrtext.ptlReference.x;
     return FALSE;
 }
@@ -88,17 +89,6 @@ int CLookInFolders::TextLeft(int row) const {
     return left;
 }
 
-OwnedItemId CLookInFolders::FolderInView() const {
-    const LRESULT bytes = m_frame ? ::SendMessageW(m_frame, CDM_GETFOLDERIDLIST, 0, 0) : 0;
-    if (bytes <= 0)
-        return nullptr;
-    OwnedItemId id(static_cast<PIDLIST_ABSOLUTE>(::CoTaskMemAlloc(static_cast<SIZE_T>(bytes))));
-    if (id && ::SendMessageW(m_frame, CDM_GETFOLDERIDLIST, static_cast<WPARAM>(bytes),
-                             reinterpret_cast<LPARAM>(id.get())) <= 0)
-        id.reset();
-    return id;
-}
-
 void CLookInFolders::Know() {
     if (m_known)
         return;
@@ -109,32 +99,53 @@ void CLookInFolders::Know() {
     lefts.reserve(static_cast<std::size_t>(count));
     for (int row = 0; row < count; ++row)
         lefts.push_back(TextLeft(row));
-    const OwnedItemId inView = FolderInView();
-    for (const int depth : DepthsOf(lefts)) {
-        m_rows.push_back({depth, nullptr, nullptr});
-        m_rows.back().id = FindItem(m_rows.size() - 1, inView.get());
+    const std::vector<int> depths = DepthsOf(lefts);
+    const bool isIndented = std::any_of(depths.begin(), depths.end(), [](int depth) { return depth > 0; });
+    const OwnedItemId inView = FolderInView(m_frame);
+    for (std::size_t row = 0; row < depths.size(); ++row) {
+        m_rows.push_back(isIndented ? RowAt(row, depths[row], inView.get())
+                                    : RowByItsPlace(row, inView.get()));
         m_rows.back().icon = m_icons.Of(m_rows.back().id.get());
     }
 }
 
-const CLookInFolders::Row* CLookInFolders::ParentOf(std::size_t row) const {
+CLookInFolders::Row CLookInFolders::RowAt(std::size_t row, int depth, const ITEMIDLIST* inView) const {
+    Row found;
+    found.depth = depth;
+    found.id = FindItem(row, depth, inView);
+    return found;
+}
+
+// A dialog that draws all rows at one place does not show how deep they stand: a row lies in the nearest one above that
+// has such a folder.
+CLookInFolders::Row CLookInFolders::RowByItsPlace(std::size_t row, const ITEMIDLIST* inView) const {
+    const int deepest = row == 0 ? 0 : m_rows[row - 1].depth + 1;
+    for (int depth = deepest; depth > 0; --depth) {
+        Row found = RowAt(row, depth, inView);
+        if (found.id)
+            return found;
+    }
+    return RowAt(row, row == 0 ? 0 : 1, inView);
+}
+
+const CLookInFolders::Row* CLookInFolders::ParentOf(std::size_t row, int depth) const {
     for (std::size_t above = row; above-- > 0;)
-        if (m_rows[above].depth == m_rows[row].depth - 1)
+        if (m_rows[above].depth == depth - 1)
             return &m_rows[above];
     return nullptr;
 }
 
-OwnedItemId CLookInFolders::FindItem(std::size_t row, const ITEMIDLIST* inView) const {
-    if (m_rows[row].depth == 0)
+OwnedItemId CLookInFolders::FindItem(std::size_t row, int depth, const ITEMIDLIST* inView) const {
+    if (depth == 0)
         return DesktopItem();
-    const Row* const parent = ParentOf(row);
+    const Row* const parent = ParentOf(row, depth);
     if (!parent || !parent->id)
         return nullptr;
     const CString name = Text(static_cast<int>(row));
-    OwnedItemId onTheWay = AncestorAt(inView, m_rows[row].depth);
+    OwnedItemId onTheWay = AncestorAt(inView, depth);
     if (onTheWay && HasName(onTheWay.get(), name))
         return onTheWay;
-    return parent->depth <= kDeepestListed ? ChildNamed(parent->id.get(), name) : nullptr;
+    return parent->depth <= kDeepestListed ? ChildNamed(parent->id.get(), name, kFolders) : nullptr;
 }
 
 int CLookInFolders::Depth(int row) {
@@ -152,7 +163,7 @@ HICON CLookInFolders::Icon(int row) {
 }
 
 HICON CLookInFolders::IconOfFolderInView() {
-    OwnedItemId id = FolderInView();
+    OwnedItemId id = FolderInView(m_frame);
     if (!m_inViewIcon || !SameItem(id.get(), m_inView.get())) {
         m_inViewIcon = m_icons.Of(id.get());
         m_inView = std::move(id);

@@ -44,9 +44,11 @@ class CLookInFolders {
     void Know();
     int RowCount() const;
     int TextLeft(int row) const;
-    OwnedItemId FindItem(std::size_t row, const ITEMIDLIST* inView) const;
-    const Row* ParentOf(std::size_t row) const;
-    OwnedItemId FolderInView() const;
+    // `depth`: of the row; rows above are known.
+    Row RowAt(std::size_t row, int depth, const ITEMIDLIST* inView) const;
+    Row RowByItsPlace(std::size_t row, const ITEMIDLIST* inView) const;
+    OwnedItemId FindItem(std::size_t row, int depth, const ITEMIDLIST* inView) const;
+    const Row* ParentOf(std::size_t row, int depth) const;
 
     HWND m_combo = nullptr;
     HWND m_frame = nullptr;

@@ -6,6 +6,8 @@
 #include <QVReplaceWnd.h>
 #include <QVSkin.h>
 
+#include <algorithm>
+
 namespace _qv_commonwnd {
 
 using namespace _qv_commonctrl;
@@ -203,23 +205,15 @@ LRESULT CQVListView::OnSelectionSettled(WPARAM, LPARAM) {
     return 0;
 }
 
+// The corner between the bars is the skinned bars' (QV_SetReplaceCorner).
 void CQVListView::OnNcPaint() {
     Default();
     CRect window;
     CRect client;
     GetWindowRect(&window);
     GetClientRect(&client);
-    if (window.Size() == client.Size())
-        return;
-    ClientToScreen(&client);
-    client.OffsetRect(-window.TopLeft());
-    const CRect corner(client.BottomRight(),
-                       CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)));
-    {
-        CWindowDC dc(this);
-        dc.FillSolidRect(corner, QV_GetSysColor(QVCLR_LIST));
-    }
-    Invalidate(FALSE);
+    if (window.Size() != client.Size())
+        Invalidate(FALSE);
 }
 
 BOOL CQVListView::OnEraseBkgnd(CDC*) {
@@ -238,8 +232,36 @@ void CQVListView::OnPaint() {
     CQVMemoDC memory(&paint, client);
     memory.FillSolidRect(client, QV_GetSysColor(QVCLR_LIST));
     DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(memory.GetSafeHdc()), 0);
+    const std::vector<CPoint> icons = IconDotsAt(memory, client.top);
+    std::vector<COLORREF> colors;
+    for (const CPoint& dot : icons)
+        colors.push_back(memory.GetPixel(dot));
     CBrush border(QV_GetSysColor(QVCLR_LIST_FRAME));
     memory.FrameRect(client, &border);
+    for (std::size_t i = 0; i < icons.size(); ++i)
+        memory.SetPixel(icons[i], colors[i]);
+}
+
+// The dots of icons in one line: the icons of the first row stand at the list's very top, where its border runs.
+std::vector<CPoint> CQVListView::IconDotsAt(CDC& dc, int y) {
+    std::vector<CPoint> dots;
+    CRect client;
+    GetClientRect(&client);
+    const COLORREF ground = QV_GetSysColor(QVCLR_LIST);
+    const bool inColumns = (GetStyle() & LVS_TYPEMASK) == LVS_LIST;
+    const LRESULT count = SendMessage(LVM_GETITEMCOUNT);
+    const LRESULT step = inColumns ? std::max<LRESULT>(1, SendMessage(LVM_GETCOUNTPERPAGE)) : 1;
+    for (LRESULT item = inColumns ? SendMessage(LVM_GETTOPINDEX) : 0; item < count; item += step) {
+        CRect icon;
+        icon.left = LVIR_ICON;
+        if (!SendMessage(LVM_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&icon)) ||
+            icon.top > y || icon.left >= client.right)
+            break;
+        for (int x = icon.left; x < icon.right && icon.bottom > y; ++x)
+            if (dc.GetPixel(CPoint(x, y)) != ground)
+                dots.emplace_back(x, y);
+    }
+    return dots;
 }
 
 // The field in which a name is edited in place.

@@ -7,6 +7,7 @@
 #include <QVListControls.h>
 
 #include <functional>
+#include <vector>
 
 namespace _qv_commonwnd {
 
@@ -53,6 +54,7 @@ class CQVListView : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     void NoteItemChange(const NMLISTVIEW& change);
     LRESULT OnItemMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void ForgetAnswers();
+    std::vector<CPoint> IconDotsAt(CDC& dc, int y);
 
     _qv_commonctrl::CQVHeaderCtrl* m_pHeader = nullptr;
     WNDPROC m_pfnList = nullptr;

@@ -1,5 +1,6 @@
 #include "ShellItems.h"
 
+#include <commdlg.h>
 #include <shlobj.h>
 #include <shlwapi.h>
 
@@ -70,7 +71,7 @@ bool HasName(PCIDLIST_ABSOLUTE id, const CString& name) {
            ShowsName(parent.Get(), child, name);
 }
 
-OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name) {
+OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name, DWORD kinds) {
     ComHandle<IShellFolder> desktop;
     ComHandle<IShellFolder> folder;
     if (!parent || FAILED(::SHGetDesktopFolder(desktop.Receive())))
@@ -80,7 +81,7 @@ OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name) {
     else if (FAILED(desktop->BindToObject(parent, nullptr, IID_IShellFolder, folder.ReceiveAny())))
         return nullptr;
     ComHandle<IEnumIDList> children;
-    if (folder->EnumObjects(nullptr, SHCONTF_FOLDERS | SHCONTF_INCLUDEHIDDEN, children.Receive()) != S_OK)
+    if (folder->EnumObjects(nullptr, kinds, children.Receive()) != S_OK)
         return nullptr;
     PITEMID_CHILD raw = nullptr;
     while (children->Next(1, &raw, nullptr) == S_OK) {
@@ -89,6 +90,17 @@ OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name) {
             return OwnedItemId(::ILCombine(parent, child.get()));
     }
     return nullptr;
+}
+
+OwnedItemId FolderInView(HWND frame) {
+    const LRESULT bytes = frame ? ::SendMessageW(frame, CDM_GETFOLDERIDLIST, 0, 0) : 0;
+    if (bytes <= 0)
+        return nullptr;
+    OwnedItemId id(static_cast<PIDLIST_ABSOLUTE>(::CoTaskMemAlloc(static_cast<SIZE_T>(bytes))));
+    if (id && ::SendMessageW(frame, CDM_GETFOLDERIDLIST, static_cast<WPARAM>(bytes),
+                             reinterpret_cast<LPARAM>(id.get())) <= 0)
+        id.reset();
+    return id;
 }
 
 bool SameItem(const ITEMIDLIST* a, const ITEMIDLIST* b) {

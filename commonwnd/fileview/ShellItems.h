@@ -13,8 +13,11 @@ OwnedItemId DesktopItem();
 OwnedItemId AncestorAt(const ITEMIDLIST* id, int depth);
 // Whether a shell item shows this name.
 bool HasName(PCIDLIST_ABSOLUTE id, const CString& name);
-// The folder of this name in another; null when there is none. Looks at every folder of the parent.
-OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name);
+// The item of a folder that shows this name; null when there is none, and for null. Looks at every item of the kinds
+// asked for (SHCONTF_*).
+OwnedItemId ChildNamed(PCIDLIST_ABSOLUTE parent, const CString& name, DWORD kinds);
+// The folder that a file dialog's frame shows; null when it does not tell, and for null.
+OwnedItemId FolderInView(HWND frame);
 // Both null, or equal byte for byte.
 bool SameItem(const ITEMIDLIST* a, const ITEMIDLIST* b);
 

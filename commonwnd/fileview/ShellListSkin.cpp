@@ -109,14 +109,36 @@ void CShellListSkin::Wear(HWND view, HWND list) {
     DropEdge(list);
     m_list.SetListProcedure(reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(list, GWLP_WNDPROC)));
     QV_ReplaceWnd(list);
+    QV_SetReplaceCorner(list, QVCLR_LIST);
     m_told = 0;
+    m_folderShown = false;
     if (const auto header = reinterpret_cast<HWND>(::SendMessageW(list, LVM_GETHEADER, 0, 0)))
         m_header.SubclassWindow(header);
-    SetPlainGround(list, QV_GetSysColor(QVCLR_GROUND));
     m_view.SubclassWindow(view);
     m_list.SubclassWindow(list);
-    SetColors(list);
-    ::PostMessageW(list, WM_QV_LISTSKIN, 0, 0);
+    ApplyLook();
+}
+
+void CShellListSkin::ApplyLook() {
+    SetPlainGround(List(), QV_GetSysColor(QVCLR_GROUND));
+    SetColors(List());
+    ::PostMessageW(List(), WM_QV_LISTSKIN, 0, 0);
+}
+
+bool CShellListSkin::OnFolderShown(HWND view) {
+    const HWND list = ShellListIn(view);
+    if (!SkinsShellList(SystemMajorVersion()))
+        return false;
+    if (!list)
+        GiveBack();
+    if (!list || (list == List() && m_folderShown))
+        return !list;
+    if (list == List())
+        ApplyLook();
+    else
+        TakeOver(view);
+    m_folderShown = true;
+    return true;
 }
 
 void CShellListSkin::GiveBack() {

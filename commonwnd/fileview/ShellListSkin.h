@@ -20,9 +20,13 @@ class CShellListSkin {
     CShellListSkin(const CShellListSkin&) = delete;
     CShellListSkin& operator=(const CShellListSkin&) = delete;
 
-    // Takes a view and its list over; another list that was worn is given back before. Nothing happens on systems
-    // whose list is not to be skinned, without a list, and when it is worn already.
+    // Takes a view that is not shown yet and its list over; another list that was worn is given back before. Nothing
+    // happens on systems whose list is not to be skinned, without a list, and when it is worn already.
     void TakeOver(HWND view);
+    // The system has told of the folder in a view; null: none came, and what was worn is given back. Takes the view over
+    // unless it is worn, and gives its list the look that the shell may have taken from it since. False, and nothing
+    // happens, when this was told of the same list before, and on systems whose list is not to be skinned.
+    bool OnFolderShown(HWND view);
     // Gives all back. Does nothing when nothing is worn.
     void GiveBack();
 
@@ -37,13 +41,15 @@ class CShellListSkin {
 
   private:
     void Wear(HWND view, HWND list);
+    void ApplyLook();
     void OnSelectionSettled();
 
     CQVListView& m_list;
     _qv_commonctrl::CQVHeaderCtrl& m_header;
     CShellView m_view;
     std::function<void()> m_selectionAction;
-    int m_told = 0; // selected items
+    int m_told = 0;             // selected items
+    bool m_folderShown = false; // the system has told of the folder in the view
 };
 
 // Whether the shell's list is skinned on this major version of the system.

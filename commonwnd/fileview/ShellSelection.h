@@ -3,6 +3,8 @@
 
 #include "ShownFolder.h"
 
+#include <vector>
+
 namespace _qv_commonwnd {
 
 enum class SelectedKind {
@@ -13,21 +15,17 @@ enum class SelectedKind {
 
 struct SelectedItem {
     CString path;
-    CString name; // without extension, or as the list shows it
+    CString name; // as the list shows it
     SelectedKind kind = SelectedKind::Missing;
     BOOL isFolder = FALSE; // a folder of either kind
 };
 
-enum class SelectionCount { One, Several };
+// The selected item, of several the first. The item itself decides: the dialog's name field holds what was selected or
+// typed before while a folder is selected, and all names of several.
+SelectedItem FindSelectedItem(const CFileDialog& dialog, CShownFolder& folder, HWND list);
 
-// The selected item, of several the first: as the dialog has it, or else as the list shows it.
-SelectedItem FindSelectedItem(const CFileDialog& dialog, CShownFolder& folder, HWND list,
-                              SelectionCount count);
-
-// Whether a path is that of an item of this name; a list may show names without their extension.
-bool IsPathOf(const CString& path, const CString& shown);
-
-// Text of the first selected item; empty when there is none.
-CString FirstSelectedText(HWND list);
+// The files and folders that a folder (with a backslash at the end) shows under this name: of several, all but one show
+// without their extension.
+std::vector<CString> PathsShownAs(const CString& folder, const CString& shown);
 
 } // namespace _qv_commonwnd

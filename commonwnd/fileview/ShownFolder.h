@@ -16,6 +16,9 @@ class CShownFolder {
     const CString& PathFor(const CFileDialog& dialog);
     // Whether the names in the list are those of the files, with extension.
     bool ShowsExtensions(const CFileDialog& dialog);
+    // The path of the item that it shows under a name which is not that of its file; empty when there is none. Looks
+    // at every item.
+    static CString PathOfItem(const CFileDialog& dialog, const CString& shown);
 
   private:
     void Ask(const CFileDialog& dialog);

@@ -23,6 +23,7 @@ BOOL CQVTreeView::TakeOver(HWND tree) {
     if (!tree || !SubclassWindow(tree))
         return FALSE;
     QV_ReplaceWnd(m_hWnd);
+    QV_SetReplaceCorner(m_hWnd, QVCLR_TREE);
     ApplySkin();
     return TRUE;
 }
@@ -54,20 +55,16 @@ BOOL CQVTreeView::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRES
     return CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
-// The default processing would paint the system's scroll bars over the skin's.
+// The default processing would paint the system's scroll bars over the skin's. The corner between the bars is theirs
+// (QV_SetReplaceCorner).
 void CQVTreeView::OnNcPaint() {
     CRect window;
     GetWindowRect(&window);
     CRect client;
     GetClientRect(&client);
     ClientToScreen(&client);
-    if (window == client)
-        return;
-    CWindowDC dc(this);
-    const CSize corner(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYVSCROLL));
-    dc.FillSolidRect(window.Width() - corner.cx, window.Height() - corner.cy, corner.cx, corner.cy,
-                     QV_GetSysColor(QVCLR_TREE));
-    Invalidate(TRUE);
+    if (window != client)
+        Invalidate(TRUE);
 }
 
 BOOL CQVTreeView::OnEraseBkgnd(CDC*) {

@@ -39,7 +39,12 @@ class CQVListView;
 // no use.
 //
 // Names of a save dialog: unless raw names were asked for, the path gets the extension of the chosen filter
-// when it lacks one, and is in lower case. An open dialog answers names as the user chose them.
+// when it lacks one, and is in lower case. An open dialog answers names as the user chose them. With
+// OFN_OVERWRITEPROMPT the system asks about the name with that extension, unless the host has given a default
+// extension of its own. A name with another extension ("clip.mov" for "*.avi") is asked about as it was typed.
+//
+// A dialog without lpstrInitialDir and without a path in lpstrFile starts in the remembered folder
+// ("pathset"/"filepath").
 class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     DECLARE_DYNAMIC(CQVFileDialog)
 
@@ -48,8 +53,9 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     // lpszDefExt: extension without dot that the system appends to a name without one; null for none.
     // lpszFileName: the name to start with; null for none. A multi-select dialog starts with none.
     // dwFlags: OFN_* flags. OFN_ENABLESIZING is taken out, OFN_HIDEREADONLY is added. With
-    //   OFN_ALLOWMULTISELECT the object keeps a name buffer of 260000 characters (m_ofn.lpstrFile),
-    //   whatever is said in m_ofn.nMaxFile.
+    //   OFN_ALLOWMULTISELECT the object keeps a name buffer of 260000 characters (m_ofn.lpstrFile) and runs
+    //   with it, whatever the host sets in m_ofn.lpstrFile (the name to start with is taken from it) and
+    //   m_ofn.nMaxFile.
     // lpszFilter: "description|pattern|description|pattern|", a pattern being "*.avi;*.wmv"; null or empty
     //   for none. A last pair without its closing bar is shown, but adds no extension to saved names.
     // pParentWnd: owner, borrowed; null for none.
@@ -127,6 +133,9 @@ class QVCOMMONWND_API CQVFileDialog : public CFileDialog {
     void InitCtrlAttribute();
     // Moves the system's controls below the painted caption.
     void MoveItems();
+    // Answers CDN_INITDONE, CDN_SELCHANGE, CDN_FOLDERCHANGE and CDN_TYPECHANGE itself: OnInitDone,
+    // OnFileNameChange, OnFolderChange and OnTypeChange of the base are not called. Only a folder change that
+    // brings no new list goes to the base, too, and all of them on systems before version 6.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);

@@ -20,6 +20,7 @@ BEGIN_MESSAGE_MAP(CSystemDialogFrame, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_NCACTIVATE()
     ON_WM_ENABLE()
+    ON_WM_WINDOWPOSCHANGED()
     ON_WM_SIZE()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
@@ -96,6 +97,13 @@ BOOL CSystemDialogFrame::OnNcActivate(BOOL bActive) {
 void CSystemDialogFrame::OnEnable(BOOL bEnable) {
     CWnd::OnEnable(bEnable);
     RepaintClose();
+}
+
+// Nothing is seen before it is painted: what is shown and waits for its first painting is black.
+void CSystemDialogFrame::OnWindowPosChanged(WINDOWPOS* lpwndpos) {
+    CWnd::OnWindowPosChanged(lpwndpos);
+    if (lpwndpos->flags & SWP_SHOWWINDOW)
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 // The frame's lines run along edges that have moved; what stood there shows them still.

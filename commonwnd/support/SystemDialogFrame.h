@@ -31,6 +31,7 @@ class CSystemDialogFrame : public CWnd, public _qv_commonctrl::CQVBaseCtrl {
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg BOOL OnNcActivate(BOOL bActive);
     afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();

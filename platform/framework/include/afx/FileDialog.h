@@ -11,6 +11,15 @@
 #include "CommonDialog.h"
 #include <commdlg.h>
 
+// The system's headers rename every GetFileTitle with a macro: members of that name keep it, and the system's function
+// is still called by it.
+#ifdef GetFileTitle
+#undef GetFileTitle
+inline short APIENTRY GetFileTitle(LPCTSTR lpszFile, LPTSTR lpszTitle, WORD cchTitle) {
+    return ::GetFileTitleW(lpszFile, lpszTitle, cchTitle);
+}
+#endif
+
 class AFXFRAME_API CFileDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CFileDialog)
   public:

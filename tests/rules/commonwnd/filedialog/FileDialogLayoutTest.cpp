@@ -51,11 +51,21 @@ TEST(FileDialogLayout, ImportPanelStandsBelowCancel) {
 }
 
 TEST(FileDialogLayout, FrameIsHighEnoughForTheImportPanel) {
-    EXPECT_EQ(16, MissingHeight(416, 422, k96));
-    EXPECT_EQ(0, MissingHeight(432, 422, k96));
-    EXPECT_EQ(1, MissingHeight(431, 422, k96));
-    EXPECT_EQ(0, MissingHeight(1000, 422, k96));
-    EXPECT_EQ(26, MissingHeight(416, 422, k192));
+    const CSize none(0, 0);
+    EXPECT_EQ(16, MissingHeight(CSize(600, 416), 422, none, k96));
+    EXPECT_EQ(0, MissingHeight(CSize(600, 432), 422, none, k96));
+    EXPECT_EQ(1, MissingHeight(CSize(600, 431), 422, none, k96));
+    EXPECT_EQ(0, MissingHeight(CSize(600, 1000), 422, none, k96));
+    EXPECT_EQ(26, MissingHeight(CSize(600, 416), 422, none, k192));
+    EXPECT_EQ(16, MissingHeight(CSize(600, 416), 422, CSize(599, 100), k96)) << "beside the panel";
+}
+
+TEST(FileDialogLayout, WideAdvanceWindowStandsBelowTheImportPanel) {
+    const CSize advance(600, 100);
+    const CSize client(600, 416);
+    const CSize high(600, client.cy + MissingHeight(client, 422, advance, k96));
+    EXPECT_EQ(426, PlaceAdvanceWindow(high, advance, FDO_KEEPOK | FDO_IMPORTFOLDER, 422, k96).top);
+    EXPECT_EQ(0, MissingHeight(high, 422, advance, k96));
 }
 
 struct AdvanceCase {

@@ -60,10 +60,10 @@ TEST_F(ShellItem, NamesAreThoseThatAreShown) {
 
 TEST_F(ShellItem, ChildrenAreFoundByName) {
     const OwnedItemId root = Of(L"C:\\");
-    const OwnedItemId found = ChildNamed(root.get(), L"windows");
+    const OwnedItemId found = ChildNamed(root.get(), L"windows", SHCONTF_FOLDERS);
     EXPECT_TRUE(SameItem(found.get(), Of(L"C:\\windows").get()));
-    EXPECT_FALSE(ChildNamed(root.get(), L"no folder of this name"));
-    EXPECT_FALSE(ChildNamed(nullptr, L"windows"));
+    EXPECT_FALSE(ChildNamed(root.get(), L"no folder of this name", SHCONTF_FOLDERS));
+    EXPECT_FALSE(ChildNamed(nullptr, L"windows", SHCONTF_FOLDERS));
 }
 
 TEST_F(ShellItem, SamenessIsThatOfEveryByte) {

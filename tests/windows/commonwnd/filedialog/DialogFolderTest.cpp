@@ -111,6 +111,37 @@ TEST_F(DialogFolder, NameOfTheFolderStandsInTheNameBox) {
     EXPECT_EQ(eSelFile, dialog.GetSelTpye());
 }
 
+// Open would otherwise end with the path of a file that is not there.
+TEST_F(DialogFolder, NameOfTheFolderGoesWithItsSelection) {
+    m_folder.file(L"takes\\inner.txt", "text");
+    TestDialog dialog(m_folder, kBoth);
+    Run(dialog, [&](Driver& user) {
+        const HWND name = ::GetDlgItem(dialog.Frame(), kFileNameCombo);
+        Select(user, dialog, L"takes");
+        user.waitText(name, L"takes");
+        Select(user, dialog, nullptr);
+        user.waitText(name, L"");
+        Select(user, dialog, L"takes");
+        user.waitText(name, L"takes");
+        const HWND former = dialog.List();
+        user.click(dialog.Frame(), IDOK); // enters it
+        user.waitFor("the folder", [&] { return dialog.List() && dialog.List() != former; });
+        user.waitText(name, L"");
+        user.click(dialog.Frame(), IDCANCEL);
+    });
+}
+
+TEST_F(DialogFolder, ImportWithoutATypeAnswersNone) {
+    TestDialog dialog(m_folder, FDO_IMPORTFOLDER);
+    EXPECT_EQ(IDOK, Run(dialog, [&](Driver& user) {
+                  Select(user, dialog, L"takes");
+                  user.send(::GetDlgItem(dialog.Frame(), kFileTypeCombo), CB_SETCURSEL,
+                            static_cast<WPARAM>(-1));
+                  Import(user, dialog);
+              }));
+    EXPECT_TRUE(dialog.GetSelFileFormat().IsEmpty());
+}
+
 // The panel alone stands in for Open; beside Open it stands four pixels below Cancel, both as wide as its button.
 TEST_F(DialogFolder, PanelStandsWhereItsOptionsSay) {
     for (const DWORD option : {static_cast<DWORD>(FDO_IMPORTFOLDER), kBoth}) {

@@ -74,6 +74,61 @@ TEST_F(RememberedFolder, ThatCannotBeReadIsLeftAlone) {
     Store(nullptr);
 }
 
+TEST_F(RememberedFolder, IsWhereTheDialogStarts) {
+    m_folder.file(L"one.avi", "x");
+    m_folder.file(L"two.avi", "x");
+    Store(m_folder.path().c_str());
+    const auto dialog = Make(Kind::Open);
+    dialog->m_ofn.lpstrInitialDir = nullptr;
+    EXPECT_EQ(IDOK, Run(*dialog, [](Driver& user) {
+                  List(user, Frame(user), 2);
+                  Confirm(user, L"one.avi");
+              }));
+    EXPECT_STREQ(m_folder.path(L"one.avi").c_str(), dialog->GetPathName());
+    EXPECT_EQ(nullptr, dialog->m_ofn.lpstrInitialDir) << "what the host said stays";
+    Store(nullptr);
+}
+
+TEST_F(RememberedFolder, GivesWayToTheHostsFolder) {
+    m_folder.folder(L"other");
+    m_folder.file(L"one.avi", "x");
+    Store(m_folder.path(L"other").c_str());
+    const auto dialog = Make(Kind::Open);
+    Run(*dialog, [](Driver& user) {
+        const HWND frame = Frame(user);
+        List(user, frame, 2);
+        user.click(frame, kCancel);
+    });
+    Store(nullptr);
+}
+
+TEST_F(FileDialog, MultiSelectBufferIsWholeWhateverTheHostWrites) {
+    const std::wstring file = m_folder.file(L"a file with a name that sixteen units do not hold.avi", "x");
+    wchar_t own[16] = L"";
+    for (wchar_t* const buffer : {own, static_cast<wchar_t*>(nullptr)}) {
+        const auto dialog = Make(Kind::Open, L"AVI|*.avi|", OFN_ALLOWMULTISELECT);
+        dialog->m_ofn.nMaxFile = 16;
+        if (buffer)
+            dialog->m_ofn.lpstrFile = buffer;
+        EXPECT_EQ(IDOK,
+                  Run(*dialog, [&](Driver& user) { Confirm(user, file.substr(file.rfind(L'\\') + 1)); }));
+        EXPECT_EQ(std::vector<std::wstring>{file}, Paths(*dialog));
+    }
+}
+
+TEST_F(FileDialog, NameIsRefusedOnceWhenTheLatchSaysSo) {
+    m_folder.file(L"a.avi", "x");
+    const auto dialog = Make(Kind::Open);
+    dialog->m_bNameOK = 0;
+    EXPECT_EQ(IDOK, Run(*dialog, [&](Driver& user) {
+                  const HWND frame = Frame(user);
+                  Confirm(user, L"a.avi");
+                  user.waitFor("the latch", [&] { return dialog->m_bNameOK == 1; });
+                  EXPECT_TRUE(::IsWindowVisible(frame));
+                  Confirm(user, L"a.avi");
+              }));
+}
+
 TEST_F(FileDialog, NullTextsAndOddSizesStillShowADialog) {
     TestFileDialog dialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, 0, TRUE, FALSE, 0xFFFFFFFC);
     dialog.m_ofn.lpstrInitialDir = m_folder.path().c_str();

@@ -241,6 +241,8 @@ TEST_P(DockedPreview, StandsWhereTheFiguresSay) {
         const CRect expected =
             _qv_commonwnd::PlaceAdvanceWindow(measured.client, CSize(width, 100), options, panelBottom, k96);
         EXPECT_TRUE(expected == PlaceIn(frame, preview));
+        const bool isBelow = !panelBottom || !(options & FDO_KEEPOK) || expected.top >= *panelBottom + 4;
+        EXPECT_TRUE(isBelow) << "the panel is covered";
         EXPECT_TRUE(CSize(width, 100) == dialog->m_szAdvance);
         user.click(frame, kCancel);
     });

@@ -22,6 +22,13 @@ CPoint CloseButton(HWND frame) {
     return CPoint(client.right - 16, 9);
 }
 
+CRect PlaceIn(HWND frame, HWND control) {
+    CRect place;
+    ::GetWindowRect(control, place);
+    ::MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
 } // namespace
 
 class FileDialogMouse : public FileDialog {
@@ -62,6 +69,79 @@ TEST_F(FileDialogMouse, CloseButtonLetGoElsewhereDoesNothing) {
         EXPECT_TRUE(::IsWindowVisible(frame));
         user.click(frame, kCancel);
     });
+}
+
+TEST_F(FileDialogMouse, CloseButtonHearsAPressRightBehindAnother) {
+    const auto dialog = Make(Kind::Open);
+    EXPECT_EQ(IDCANCEL, Run(*dialog, [](Driver& user) {
+                  const HWND frame = Frame(user);
+                  user.hover(frame, CloseButton(frame));
+                  qvtest::mouseDown();
+                  user.hover(frame, CloseButton(frame) + CPoint(0, 40));
+                  qvtest::mouseUp();
+                  user.clickAt(frame, CloseButton(frame));
+              }));
+}
+
+TEST_F(FileDialogMouse, CloseButtonLetGoOverItAfterAPressElsewhereDoesNothing) {
+    const auto dialog = Make(Kind::Open);
+    Run(*dialog, [](Driver& user) {
+        const HWND frame = Frame(user);
+        const CPoint close = CloseButton(frame);
+        user.send(frame, WM_LBUTTONUP, 0, MAKELPARAM(close.x, close.y));
+        EXPECT_TRUE(::IsWindowVisible(frame));
+        user.click(frame, kCancel);
+    });
+}
+
+TEST_F(FileDialogMouse, CloseButtonShowsWhatTheFrameIs) {
+    using namespace _qv_commonctrl;
+    const auto dialog = Make(Kind::Open);
+    Run(*dialog, [](Driver& user) {
+        const HWND frame = Frame(user);
+        const CPoint corner = CloseButton(frame) + CPoint(-8, -5);
+        const auto waitFor = [&](const char* what, int color) {
+            user.waitFor(what, [&] {
+                return Picture::ofClient(frame).at(corner.x, corner.y) == QV_GetSysColor(color);
+            });
+        };
+        user.hover(frame, CloseButton(frame));
+        qvtest::mouseDown();
+        waitFor("the pressed button", QVCLR_CLOSE_ACTIVE + 2);
+        user.hover(frame, CPoint(100, 100));
+        qvtest::mouseUp();
+        waitFor("the plain button", QVCLR_CLOSE_ACTIVE);
+        user.onUi([&] { ::EnableWindow(frame, FALSE); });
+        waitFor("the disabled button", QVCLR_CLOSE_ACTIVE + 3);
+        user.onUi([&] { ::EnableWindow(frame, TRUE); });
+        HWND other = nullptr;
+        user.onUi([&] {
+            other = ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 20, 20, nullptr,
+                                      nullptr, nullptr, nullptr);
+            ::SetActiveWindow(other);
+        });
+        waitFor("the button of an inactive frame", QVCLR_CLOSE_INACTIVE);
+        user.onUi([&] {
+            ::DestroyWindow(other);
+            ::SetActiveWindow(frame);
+        });
+        user.click(frame, kCancel);
+    });
+}
+
+TEST_F(FileDialogMouse, LabelsStandOnOneGround) {
+    using namespace _qv_commonctrl;
+    m_folder.file(L"skin\\skin.txt", "color 16 ground-tree #800000\n");
+    QV_SetSkinPath(m_folder.path(L"skin").c_str());
+    const auto dialog = Make(Kind::Open);
+    Run(*dialog, [](Driver& user) {
+        const HWND frame = Frame(user);
+        for (const int label : {1089, 1090, 1091})
+            EXPECT_EQ(QV_GetSysColor(QVCLR_WINDOW), Picture::ofClient(::GetDlgItem(frame, label)).at(0, 0))
+                << label;
+        user.click(frame, kCancel);
+    });
+    QV_SetSkinPath(nullptr);
 }
 
 TEST_F(FileDialogMouse, CloseButtonShowsThePointer) {
@@ -265,6 +345,30 @@ TEST_P(FileDialogViews, AreSkinnedAndScroll) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FileDialogViews, testing::Values(0, 1, 2, 3));
+
+TEST_F(FileDialogMouse, CornerBetweenTheBarsIsTheLists) {
+    using namespace _qv_commonctrl;
+    for (int i = 0; i < kManyFiles; ++i)
+        m_folder.file(L"clip " + std::to_wstring(i) + L".avi", "x");
+    const auto dialog = Make(Kind::Open);
+    Run(*dialog, [&](Driver& user) {
+        const HWND frame = Frame(user);
+        const HWND list = List(user, frame, kManyFiles + 3);
+        user.send(::GetParent(list), WM_COMMAND, static_cast<WPARAM>(kViewCommands[3]));
+        user.send(list, LVM_SETCOLUMNWIDTH, 0, 2000);
+        QVReplaceData bars;
+        user.waitFor("both bars", [&] {
+            user.onUi([&] { QV_GetReplaceData(list, bars); });
+            return bars.bVert && bars.bHorz;
+        });
+        user.settle();
+        CRect place = PlaceIn(frame, list);
+        const CPoint corner = place.TopLeft() + CPoint(bars.rcVert.left + 4, bars.rcHorz.top + 4);
+        EXPECT_EQ(QV_GetSysColor(QVCLR_LIST), Picture::ofClient(frame).at(corner.x, corner.y));
+        EXPECT_NE(QV_GetSysColor(QVCLR_LIST), QV_GetSysColor(QVCLR_SCROLL_TRACK));
+        user.click(frame, kCancel);
+    });
+}
 
 TEST_F(FileDialogMouse, SkinChangeReachesTheOpenDialog) {
     using namespace _qv_commonctrl;

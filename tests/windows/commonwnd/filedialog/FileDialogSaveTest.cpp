@@ -3,6 +3,22 @@
 
 namespace filedialog_test {
 
+namespace {
+
+// The system's question whether to overwrite.
+HWND Question(Driver& user) {
+    HWND question = nullptr;
+    user.waitFor("the question", [&] {
+        for (const HWND window : qvtest::findWindows({.className = L"#32770"}))
+            if (qvtest::findControl(window, IDYES) && !::GetDlgItem(window, kFileNameCombo))
+                question = window;
+        return question != nullptr;
+    });
+    return question;
+}
+
+} // namespace
+
 struct SaveRow {
     const char* name;
     const wchar_t* filter;
@@ -51,6 +67,7 @@ TEST_F(FileDialog, RawNamesAreTheSystemsOwn) {
     const auto dialog = Make(Kind::Save, kAviAll, 0, Names::Raw);
     EXPECT_EQ(IDOK, Run(*dialog, [](Driver& user) { Confirm(user, L"Clip"); }));
     EXPECT_STREQ(m_folder.path(L"Clip").c_str(), dialog->GetPathName());
+    EXPECT_STREQ(m_folder.path(L"Clip").c_str(), dialog->GetSaveFilePath());
     EXPECT_STREQ(L"Clip", dialog->GetFileName());
     EXPECT_STREQ(L"", dialog->GetFileExt());
     EXPECT_STREQ(L"Clip", dialog->GetFileTitle());
@@ -84,16 +101,26 @@ TEST_F(FileDialog, SaveOverAnExistingFileAsks) {
     const auto dialog = Make(Kind::Save, kAviAll, OFN_OVERWRITEPROMPT);
     EXPECT_EQ(IDOK, Run(*dialog, [&](Driver& user) {
                   Confirm(user, L"taken.avi");
-                  HWND question = nullptr;
-                  user.waitFor("the question", [&] {
-                      for (const HWND window : qvtest::findWindows({.className = L"#32770"}))
-                          if (qvtest::findControl(window, IDYES) && !NameEdit(window))
-                              question = window;
-                      return question != nullptr;
-                  });
-                  user.click(question, IDYES);
+                  user.click(Question(user), IDYES);
               }));
     EXPECT_STREQ((Lower(m_folder.path()) + L"\\taken.avi").c_str(), dialog->GetPathName());
+}
+
+// The question is about the file that the dialog will answer, and not about the name that was typed.
+TEST_F(FileDialog, SaveAsksAboutTheCompletedName) {
+    m_folder.file(L"a.avi", "x");
+    m_folder.file(L"a.mov", "x");
+    for (const int filter : {0, 1}) {
+        const auto dialog = Make(Kind::Save, L"AVI|*.avi;*.wmv|MOV|*.mov|", OFN_OVERWRITEPROMPT);
+        EXPECT_EQ(IDCANCEL, Run(*dialog, [&](Driver& user) {
+                      const HWND frame = Frame(user);
+                      ChooseFilter(user, frame, filter);
+                      Confirm(user, L"a");
+                      user.click(Question(user), IDNO);
+                      user.click(frame, kCancel);
+                  }));
+        EXPECT_EQ(nullptr, dialog->m_ofn.lpstrDefExt) << "what the host said stays";
+    }
 }
 
 TEST_F(FileDialog, OpenDialogKeepsNamesWhateverTheFilter) {

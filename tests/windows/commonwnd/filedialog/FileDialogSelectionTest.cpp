@@ -6,6 +6,75 @@ namespace filedialog_test {
 
 using Note = PreviewProbe::Note;
 
+namespace {
+
+// The user's choice not to be shown the extensions of files.
+class HiddenExtensions {
+  public:
+    HiddenExtensions() { Set(1); }
+    ~HiddenExtensions() { Set(0); }
+    HiddenExtensions(const HiddenExtensions&) = delete;
+    HiddenExtensions& operator=(const HiddenExtensions&) = delete;
+
+  private:
+    static void Set(DWORD hide) {
+        EXPECT_EQ(ERROR_SUCCESS,
+                  ::RegSetKeyValueW(HKEY_CURRENT_USER,
+                                    L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
+                                    L"HideFileExt", REG_DWORD, &hide, sizeof hide));
+    }
+};
+
+// Counts what a list is sent and posted for its look while it lives.
+class LookWatch {
+  public:
+    LookWatch() {
+        s_grounds = s_posts = 0;
+        m_sent = ::SetWindowsHookExW(WH_CALLWNDPROC, &NoteSent, nullptr, ::GetCurrentThreadId());
+        m_posted = ::SetWindowsHookExW(WH_GETMESSAGE, &NotePosted, nullptr, ::GetCurrentThreadId());
+    }
+    ~LookWatch() {
+        ::UnhookWindowsHookEx(m_sent);
+        ::UnhookWindowsHookEx(m_posted);
+    }
+    LookWatch(const LookWatch&) = delete;
+    LookWatch& operator=(const LookWatch&) = delete;
+
+    static int Grounds() { return s_grounds; } // background pictures
+    static int Posts() { return s_posts; }     // WM_QV_LISTSKIN
+
+  private:
+    static LRESULT CALLBACK NoteSent(int code, WPARAM wParam, LPARAM lParam) {
+        s_grounds +=
+            code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lParam)->message == LVM_SETBKIMAGEW;
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static LRESULT CALLBACK NotePosted(int code, WPARAM wParam, LPARAM lParam) {
+        s_posts += code == HC_ACTION && wParam == PM_REMOVE &&
+                   reinterpret_cast<const MSG*>(lParam)->message == WM_QV_LISTSKIN;
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline int s_grounds = 0;
+    static inline int s_posts = 0;
+    HHOOK m_sent;
+    HHOOK m_posted;
+};
+
+// A host's dialog that notes which of the base's notifications reach it.
+class NotedDialog : public TestFileDialog {
+  public:
+    using TestFileDialog::TestFileDialog;
+    int m_notes = 0;
+
+  protected:
+    void OnInitDone() override { ++m_notes; }
+    void OnFileNameChange() override { ++m_notes; }
+    void OnTypeChange() override { ++m_notes; }
+};
+
+} // namespace
+
 class FileDialogSelection : public FileDialog {
   protected:
     void SetUp() override {
@@ -40,7 +109,8 @@ class FileDialogSelection : public FileDialog {
         });
     }
 
-    int Row(Driver& user, const std::wstring& name) const {
+    // The row of a name behind another row.
+    int Row(Driver& user, const std::wstring& name, int behind = -1) const {
         std::vector<wchar_t> text(name.c_str(), name.c_str() + name.size() + 1);
         LRESULT row = -1;
         user.waitFor("the row", [&] {
@@ -48,7 +118,7 @@ class FileDialogSelection : public FileDialog {
                 LVFINDINFOW find = {};
                 find.flags = LVFI_STRING;
                 find.psz = text.data();
-                row = ::SendMessageW(m_list, LVM_FINDITEMW, static_cast<WPARAM>(-1),
+                row = ::SendMessageW(m_list, LVM_FINDITEMW, static_cast<WPARAM>(behind),
                                      reinterpret_cast<LPARAM>(&find));
             });
             return row >= 0;
@@ -58,8 +128,10 @@ class FileDialogSelection : public FileDialog {
 
     // By real mouse input.
     void Click(Driver& user, const std::wstring& name, unsigned modifiers = qvtest::NoModifier) {
+        ClickRow(user, Row(user, name), modifiers);
+    }
+    void ClickRow(Driver& user, int row, unsigned modifiers = qvtest::NoModifier) {
         CRect label;
-        const int row = Row(user, name);
         user.onUi([&] { ListView_GetItemRect(m_list, row, &label, LVIR_LABEL); });
         user.clickAt(m_list, label.CenterPoint(), qvtest::MouseButton::Left, modifiers);
         user.settle();
@@ -67,6 +139,12 @@ class FileDialogSelection : public FileDialog {
     void Unselect(Driver& user) {
         user.onUi([&] { ListView_SetItemState(m_list, -1, 0, LVIS_SELECTED); });
         user.settle();
+    }
+    // As the system tells of a folder; on the dialog's thread.
+    void NotifyFolder() const {
+        OFNOTIFYW notice = {};
+        notice.hdr = {m_frame, 0, static_cast<UINT>(CDN_FOLDERCHANGE)};
+        ::SendMessageW(m_dialog->m_hWnd, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
     }
     Note Last() {
         const std::vector<Note> notes = m_preview->TakeNotes();
@@ -142,6 +220,51 @@ TEST_F(FileDialogSelection, FolderWithADotInItsNameIsFound) {
     });
 }
 
+TEST_F(FileDialogSelection, ItemIsNotTakenForTheFileSelectedBefore) {
+    m_folder.file(L"Archive.avi", "x");
+    m_folder.file(L"Sky.psd", "8BPS is all of it");
+    m_folder.folder(L"Sky");
+    m_folder.file(L"picture", "x");
+    Browse(FDO_KEEPOK | FDO_IMPORTFOLDER, 0, [&](Driver& user) {
+        Click(user, L"Archive.avi");
+        Click(user, L"Archive");
+        EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"Archive")}), Last());
+        EXPECT_TRUE(ImportEnabled());
+        Click(user, L"Sky.psd");
+        EXPECT_TRUE(PanelShown());
+        Click(user, L"Sky");
+        EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"Sky")}), Last());
+        EXPECT_FALSE(PanelShown());
+        EXPECT_TRUE(ImportEnabled());
+        Click(user, L"picture.psd");
+        Click(user, L"picture");
+        EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"picture")}), Last());
+        EXPECT_FALSE(PanelShown());
+    });
+}
+
+// As it is on most machines: the list shows two rows of the same name.
+TEST_F(FileDialogSelection, HiddenExtensionsDoNotMixItemsUp) {
+    m_folder.file(L"Archive.avi", "x");
+    const HiddenExtensions hidden;
+    Browse(FDO_KEEPOK | FDO_IMPORTFOLDER, 0, [&](Driver& user) {
+        const int folder = Row(user, L"Archive");
+        const int file = Row(user, L"Archive", folder);
+        ASSERT_NE(folder, file);
+        for (int round = 0; round < 2; ++round) {
+            ClickRow(user, file);
+            EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"Archive.avi")}), Last());
+            EXPECT_FALSE(ImportEnabled());
+            ClickRow(user, folder);
+            EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"Archive")}), Last());
+            EXPECT_TRUE(ImportEnabled());
+        }
+        ClickRow(user, Row(user, L"picture"));
+        EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"picture.psd")}), Last());
+        EXPECT_TRUE(PanelShown());
+    });
+}
+
 TEST_F(FileDialogSelection, ImportButtonEndsTheDialogWithTheFolder) {
     Browse(FDO_IMPORTFOLDER, 0, [&](Driver& user) {
         Click(user, L"Archive");
@@ -158,8 +281,13 @@ TEST_F(FileDialogSelection, ImportButtonEndsTheDialogWithTheFolder) {
 TEST_F(FileDialogSelection, SeveralAreToldByTheirNumber) {
     Browse(FDO_KEEPOK | FDO_IMPORTFOLDER, OFN_ALLOWMULTISELECT, [&](Driver& user) {
         Click(user, L"a.avi");
+        m_preview->TakeNotes();
         Click(user, L"b.avi", qvtest::Control);
-        EXPECT_EQ((Note{FILESEL_SEVERAL, L"", false, 2}), Last());
+        const std::vector<Note> both = m_preview->TakeNotes();
+        ASSERT_GE(both.size(), 2u);
+        EXPECT_EQ((Note{FILESEL_ONE, m_folder.path(L"a.avi")}), both[both.size() - 2])
+            << "the first one's path";
+        EXPECT_EQ((Note{FILESEL_SEVERAL, L"", false, 2}), both.back());
         Click(user, L"Archive", qvtest::Control);
         EXPECT_EQ((Note{FILESEL_SEVERAL, L"", false, 3}), Last());
         EXPECT_FALSE(ImportEnabled()) << "only a single folder";
@@ -234,14 +362,54 @@ TEST_F(FileDialogSelection, EveryFolderHasItsListSkinned) {
     });
 }
 
+// The shell sets its list up between the making of the view and the notice of the folder.
+TEST_F(FileDialogSelection, FirstNoticeOfAListGivesItsLookAgain) {
+    const LookWatch watch;
+    Browse(FDO_KEEPOK, 0, [&](Driver& user) {
+        user.settle();
+        EXPECT_EQ(2, LookWatch::Grounds());
+        EXPECT_EQ(2, LookWatch::Posts());
+        user.onUi([&] { NotifyFolder(); });
+        user.settle();
+        EXPECT_EQ(2, LookWatch::Grounds()) << "told again of the same list";
+        EXPECT_EQ(2, LookWatch::Posts());
+    });
+}
+
+TEST_F(FileDialogSelection, ViewThatFailedToComeReleasesTheFormerList) {
+    Browse(FDO_KEEPOK, 0, [&](Driver& user) {
+        user.onUi([&] {
+            const HWND view = ::GetParent(m_list);
+            ::SetParent(view, ::GetDesktopWindow());
+            NotifyFolder();
+            EXPECT_EQ(nullptr, m_dialog->m_pSkinnedList);
+            ::SetParent(view, m_frame);
+            NotifyFolder();
+            EXPECT_EQ(m_list, m_dialog->m_pSkinnedList->GetSafeHwnd());
+        });
+    });
+}
+
+TEST_F(FileDialogSelection, BaseIsNotAskedWhatTheDialogAnswers) {
+    NotedDialog dialog(TRUE, nullptr, nullptr, 0, L"All|*.*|AVI|*.avi|", nullptr, 0, FALSE, FALSE,
+                       FDO_KEEPOK);
+    dialog.m_ofn.lpstrInitialDir = m_folder.path().c_str();
+    Run(dialog, [&](Driver& user) {
+        m_frame = Frame(user);
+        m_list = user.waitDescendant(m_frame, L"SysListView32");
+        Click(user, L"a.avi");
+        ChooseFilter(user, m_frame, 1);
+        user.click(m_frame, kCancel);
+    });
+    EXPECT_EQ(0, dialog.m_notes);
+}
+
 TEST_F(FileDialogSelection, SecondNoticeOfTheSameListChangesNothing) {
     Browse(FDO_KEEPOK, 0, [&](Driver& user) {
         user.onUi([&] {
             const auto procedure = ::GetWindowLongPtrW(m_list, GWLP_WNDPROC);
             CWnd* const skinned = m_dialog->m_pSkinnedList;
-            OFNOTIFYW notice = {};
-            notice.hdr = {m_frame, 0, static_cast<UINT>(CDN_FOLDERCHANGE)};
-            ::SendMessageW(m_dialog->m_hWnd, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+            NotifyFolder();
             EXPECT_EQ(procedure, ::GetWindowLongPtrW(m_list, GWLP_WNDPROC));
             EXPECT_EQ(skinned, m_dialog->m_pSkinnedList);
         });

@@ -42,7 +42,48 @@ class PaintWatch {
     HHOOK m_hook;
 };
 
+// Looks at a frame as soon as it has been shown.
+class ShowWatch {
+  public:
+    explicit ShowWatch(const TestFileDialog& dialog) {
+        s_dialog = &dialog;
+        s_shown = s_waiting = 0;
+        m_hook = ::SetWindowsHookExW(WH_CALLWNDPROCRET, &Note, nullptr, ::GetCurrentThreadId());
+    }
+    ~ShowWatch() { ::UnhookWindowsHookEx(m_hook); }
+    ShowWatch(const ShowWatch&) = delete;
+    ShowWatch& operator=(const ShowWatch&) = delete;
+
+    static int Shown() { return s_shown; }
+    static int Waiting() { return s_waiting; } // for the first painting
+
+  private:
+    static LRESULT CALLBACK Note(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& done = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+        if (code == HC_ACTION && done.message == WM_WINDOWPOSCHANGED && s_dialog->m_hWnd &&
+            done.hwnd == ::GetParent(s_dialog->m_hWnd) &&
+            (reinterpret_cast<const WINDOWPOS*>(done.lParam)->flags & SWP_SHOWWINDOW)) {
+            ++s_shown;
+            s_waiting += ::GetUpdateRect(done.hwnd, nullptr, FALSE) != FALSE;
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline const TestFileDialog* s_dialog = nullptr;
+    static inline int s_shown = 0;
+    static inline int s_waiting = 0;
+    HHOOK m_hook;
+};
+
 } // namespace
+
+TEST_F(FileDialog, FrameIsPaintedAsSoonAsItIsShown) {
+    const auto dialog = Make(Kind::Open);
+    const ShowWatch watch(*dialog);
+    Run(*dialog, [](Driver& user) { user.click(Frame(user), IDCANCEL); });
+    EXPECT_EQ(1, ShowWatch::Shown());
+    EXPECT_EQ(0, ShowWatch::Waiting());
+}
 
 // What the system paints before that would flash up in its white.
 TEST_F(FileDialog, NoListIsPaintedBeforeItIsSkinned) {

@@ -5,6 +5,8 @@
 #include "Picture.h"
 #include "ShownText.h"
 
+#include <QVReplaceWnd.h>
+
 #include <commctrl.h>
 #include <shlobj.h>
 
@@ -244,6 +246,42 @@ TEST_F(PathDialog, TreeIsScrolledBySkinnedBars) {
         user.settle();
         const Picture picture = Picture::ofWindow(frame);
         EXPECT_GT(picture.count(QV_GetSysColor(QVCLR_SCROLL_TRACK), CRect(423, 64, 440, 456)), 100);
+        user.click(frame, kCancel);
+    });
+}
+
+// Where both bars meet, window pixels of the tree; empty while one of them does not show.
+CRect CornerOf(Driver& user, HWND tree) {
+    CRect corner;
+    user.onUi([&] {
+        QVReplaceData bars;
+        if (QV_GetReplaceData(tree, bars) && bars.bVert && bars.bHorz)
+            corner = CRect(bars.rcVert.left, bars.rcHorz.top, bars.rcVert.right, bars.rcHorz.bottom);
+    });
+    return corner;
+}
+
+TEST_F(PathDialog, CornerBetweenTheBarsIsGroundOfTheTree) {
+    ASSERT_NE(QV_GetSysColor(QVCLR_TREE), QV_GetSysColor(QVCLR_SCROLL_TRACK));
+    const std::wstring wide(90, L'w');
+    for (int i = 0; i < 40; ++i)
+        m_folder.folder(L"top\\" + std::to_wstring(100 + i) + wide);
+    CQVPathDialog dialog(nullptr);
+    dialog.m_strPath = m_folder.path(L"top\\100" + wide).c_str();
+    Run(dialog, [&](Driver& user, HWND frame) {
+        const HWND tree = Tree(frame);
+        WaitSelected(user, tree, L"100" + wide);
+        CRect corner;
+        user.waitFor("both bars", [&] {
+            corner = CornerOf(user, tree);
+            return !corner.IsRectEmpty();
+        });
+        user.settle();
+        const CRect place = PlaceOf(frame, tree);
+        corner.OffsetRect(place.TopLeft());
+        const Picture picture = Picture::ofWindow(frame);
+        picture.save(qvtest::picturePath(L"pathdialog-corner"));
+        EXPECT_EQ(corner.Width() * corner.Height(), picture.count(QV_GetSysColor(QVCLR_TREE), corner));
         user.click(frame, kCancel);
     });
 }
