@@ -228,7 +228,9 @@ CString CQVFileDialog::CRun::FilterExtension(DWORD filterIndex) const {
     const FilterChoice choice{patterns, filterIndex};
     const std::wstring* const pattern = choice.Pattern();
     const auto first = pattern ? FirstAlternative(*pattern) : std::nullopt;
-    const std::size_t dot = first ? first->find(L'.') : std::wstring_view::npos;
+    if (!first)
+        return CString();
+    const std::size_t dot = first->find(L'.');
     if (dot == std::wstring_view::npos)
         return CString();
     const std::wstring_view extension = first->substr(dot + 1);

@@ -63,9 +63,9 @@ void SetPlainGround(HWND list, COLORREF color) {
         return;
     LVBKIMAGEW image = {};
     image.ulFlags = LVBKIF_SOURCE_HBITMAP;
-    image.hbm = pixel.get();
-    if (::SendMessageW(list, LVM_SETBKIMAGEW, 0, reinterpret_cast<LPARAM>(&image)))
-        pixel.release(); // the list's
+    image.hbm = pixel.release(); // the list's, if it takes it
+    if (!::SendMessageW(list, LVM_SETBKIMAGEW, 0, reinterpret_cast<LPARAM>(&image)))
+        pixel.reset(image.hbm);
 }
 
 void SetColors(HWND list) {

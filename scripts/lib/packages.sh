@@ -2,7 +2,7 @@
 # Debian packages by what they are needed for. Needs lib/common.sh.
 # shellcheck disable=SC2034 # the lists are for the scripts that source this file
 
-readonly BUILD_PACKAGES=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest librsvg2-bin)
+readonly BUILD_PACKAGES=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest librsvg2-bin python3)
 readonly RUN_PACKAGES=(wine64 fonts-wine fonts-liberation fonts-wqy-microhei xvfb locales xdotool)
 readonly CHECK_PACKAGES=(clang-19 clang-tidy-19 libclang-rt-19-dev clang-format cppcheck shellcheck python3 git)
 readonly BENCH_PACKAGES=(dpkg-dev python3)

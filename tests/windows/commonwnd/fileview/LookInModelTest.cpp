@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <commdlg.h>
 #include <shlobj.h>
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
