@@ -34,8 +34,8 @@ class CQVListView;
 // that imports a whole folder and an optional window of the host docked into it.
 //
 // Order of calls: construct; SetAdvanceWnd, SetPreviewMode, EnableLayerInfo(LAYERINFO_ALLOWPANEL),
-// EnableCompileImportType as wanted; DoModal; on IDOK GetSelTpye, then for eSelFile the paths and layer choices, for eSelForder
-// GetSelForderPath and GetSelFileFormat. What the getters answer before DoModal has returned IDOK once is of
+// EnableCompileImportType as wanted; DoModal; on IDOK GetSelTpye, then for eSelFile the paths and layer choices, for
+// eSelForder GetSelForderPath and GetSelFileFormat. What the getters answer before DoModal has returned IDOK once is of
 // no use.
 //
 // Names of a save dialog: unless raw names were asked for, the path gets the extension of the chosen filter
