@@ -106,23 +106,6 @@ TEST_F(FileDialog, SaveOverAnExistingFileAsks) {
     EXPECT_STREQ((Lower(m_folder.path()) + L"\\taken.avi").c_str(), dialog->GetPathName());
 }
 
-// The question is about the file that the dialog will answer, and not about the name that was typed.
-TEST_F(FileDialog, SaveAsksAboutTheCompletedName) {
-    m_folder.file(L"a.avi", "x");
-    m_folder.file(L"a.mov", "x");
-    for (const int filter : {0, 1}) {
-        const auto dialog = Make(Kind::Save, L"AVI|*.avi;*.wmv|MOV|*.mov|", OFN_OVERWRITEPROMPT);
-        EXPECT_EQ(IDCANCEL, Run(*dialog, [&](Driver& user) {
-                      const HWND frame = Frame(user);
-                      ChooseFilter(user, frame, filter);
-                      Confirm(user, L"a");
-                      user.click(Question(user), IDNO);
-                      user.click(frame, kCancel);
-                  }));
-        EXPECT_EQ(nullptr, dialog->m_ofn.lpstrDefExt) << "what the host said stays";
-    }
-}
-
 TEST_F(FileDialog, OpenDialogKeepsNamesWhateverTheFilter) {
     m_folder.file(L"Clip.Mov", "x");
     const auto dialog = Make(Kind::Open, kAviAll);
